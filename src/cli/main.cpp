@@ -1,0 +1,11 @@
+// combwise-cli's entry point: hands the arguments to the command runner.
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/cli.h"
+
+int main(int argc, char* argv[]) {
+  const std::vector<std::string> args(argv + 1, argv + argc);
+  return combwise::cli::runCli(args, std::cout, std::cerr);
+}
