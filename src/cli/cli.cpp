@@ -1,7 +1,13 @@
 // combwise-cli's command dispatch and its general options.
 #include "cli/cli.h"
 
+#include <functional>
+#include <map>
+#include <optional>
 #include <ostream>
+
+#include "cli/commands.h"
+#include "core/files/programfolder.h"
 
 namespace combwise::cli {
 namespace {
@@ -11,30 +17,69 @@ constexpr const char* kUsage =
     "\n"
     "The headless tool for Combwise puzzle makers.\n"
     "\n"
+    "Commands:\n"
+    "  create     append new puzzles to a collection\n"
+    "  batch      append 2000 puzzles of size 17 to the program folder's batch file\n"
+    "  randomize  write a collection without duplicates, in random order\n"
+    "  show       draw a puzzle and its clues in the terminal\n"
+    "  clues      write a puzzle's clue listing to a text file\n"
+    "  check      report the puzzles of a collection that are broken\n"
+    "\n"
     "Options:\n"
-    "  --help       show this help\n"
-    "  --version    show the version\n"
-    "  --home DIR   use DIR as the program folder (dictionary, meanings)\n";
+    "  --home DIR   the program folder (dictionary, meanings); default: the\n"
+    "               COMBWISE_HOME environment variable, else the tool's folder\n"
+    "  --help       show this help; COMMAND --help shows a command's\n"
+    "  --version    show the version\n";
+
+using Command = std::function<int(Context&, const Arguments&)>;
+
+const std::map<std::string, Command>& commands() {
+  static const std::map<std::string, Command> table = {
+      {"create", runCreate}, {"batch", runBatch}, {"randomize", runRandomize},
+      {"show", runShow},     {"clues", runClues}, {"check", runCheck},
+  };
+  return table;
+}
 
 }  // namespace
 
-int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-  if (args.empty()) {
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, bool progressOnTerminal) {
+  std::optional<std::string> home;
+  std::size_t at = 0;
+  for (; at < args.size(); ++at) {
+    const std::string& arg = args[at];
+    if (arg == "--help" || arg == "-h" || arg == "help") {
+      out << kUsage;
+      return 0;
+    }
+    if (arg == "--version" || arg == "-V") {
+      out << "combwise-cli " << COMBWISE_VERSION_MAJOR << "." << COMBWISE_VERSION_MINOR << "."
+          << COMBWISE_VERSION_PATCH << "\n";
+      return 0;
+    }
+    if (arg == "--home") {
+      if (at + 1 >= args.size()) {
+        err << "combwise-cli: --home needs a folder\n";
+        return 2;
+      }
+      home = args[++at];
+    } else if (arg.rfind("--home=", 0) == 0) {
+      home = arg.substr(7);
+    } else {
+      break;
+    }
+  }
+  if (at >= args.size()) {
     err << kUsage;
     return 2;
   }
-  const std::string& first = args.front();
-  if (first == "--help" || first == "-h" || first == "help") {
-    out << kUsage;
-    return 0;
+  const auto command = commands().find(args[at]);
+  if (command == commands().end()) {
+    err << "combwise-cli: unknown command '" << args[at] << "'\n\n" << kUsage;
+    return 2;
   }
-  if (first == "--version" || first == "-V") {
-    out << "combwise-cli " << COMBWISE_VERSION_MAJOR << "." << COMBWISE_VERSION_MINOR << "." << COMBWISE_VERSION_PATCH
-        << "\n";
-    return 0;
-  }
-  err << "combwise-cli: unknown command '" << first << "'\n\n" << kUsage;
-  return 2;
+  Context context{programFolder(home), out, err, progressOnTerminal};
+  return command->second(context, Arguments(args.begin() + static_cast<std::ptrdiff_t>(at) + 1, args.end()));
 }
 
 }  // namespace combwise::cli

@@ -8,6 +8,7 @@
 
 namespace combwise::cli {
 
-int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+// `progressOnTerminal` draws progress bars on `err` (when it is a terminal).
+int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err, bool progressOnTerminal = false);
 
 }  // namespace combwise::cli

@@ -1,4 +1,6 @@
 // combwise-cli's entry point: hands the arguments to the command runner.
+#include <unistd.h>
+
 #include <iostream>
 #include <string>
 #include <vector>
@@ -7,5 +9,5 @@
 
 int main(int argc, char* argv[]) {
   const std::vector<std::string> args(argv + 1, argv + argc);
-  return combwise::cli::runCli(args, std::cout, std::cerr);
+  return combwise::cli::runCli(args, std::cout, std::cerr, isatty(STDERR_FILENO) != 0);
 }

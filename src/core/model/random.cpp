@@ -5,6 +5,7 @@
 #include <bit>
 #include <chrono>
 #include <ctime>
+#include <time.h>
 
 namespace combwise {
 namespace {
@@ -19,7 +20,32 @@ constexpr std::uint64_t mix64(std::uint64_t x) {
 
 }  // namespace
 
-RandomSource::RandomSource() : m_clock(&RandomSource::timeOfDay) {}
+namespace {
+
+// The system clock's time of day. Local midnight is found once and then
+// only the coarse real-time clock is read (a few nanoseconds; its ticks are
+// milliseconds apart, which the draw count mixed into every draw covers);
+// midnight is found again when a day has passed.
+RandomSource::Clock timeOfDayClock() {
+  return [midnight = std::time_t{0}, known = false]() mutable {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    double seconds = static_cast<double>(now.tv_sec - midnight) + static_cast<double>(now.tv_nsec) * 1e-9;
+    if (!known || seconds < 0.0 || seconds >= 86400.0) {
+      seconds = RandomSource::timeOfDay();
+      midnight = now.tv_sec - static_cast<std::time_t>(seconds);
+      seconds = static_cast<double>(now.tv_sec - midnight) + static_cast<double>(now.tv_nsec) * 1e-9;
+      known = true;
+    }
+    return seconds;
+  };
+}
+
+}  // namespace
+
+RandomSource::RandomSource() : m_clock(timeOfDayClock()) {}
+
+RandomSource RandomSource::timed(std::uint64_t salt) { return RandomSource(timeOfDayClock(), mix64(salt)); }
 
 RandomSource::RandomSource(Clock clock, std::uint64_t salt) : m_clock(std::move(clock)), m_salt(salt) {}
 
@@ -30,9 +56,17 @@ RandomSource RandomSource::seeded(std::uint64_t seed, std::uint64_t stream) {
 }
 
 double RandomSource::next() {
-  const double reading = m_clock ? m_clock() : 0.0;
-  const std::uint64_t seed = mix64(std::bit_cast<std::uint64_t>(reading) ^ m_salt);
-  const std::uint64_t bits = mix64(seed ^ mix64(m_draws++));
+  const std::uint64_t reading = m_clock ? std::bit_cast<std::uint64_t>(m_clock()) : 0;
+  // The seed follows the clock reading; the hash of one reading is kept,
+  // since a reading lasts for many draws.
+  if (reading != m_lastReading || !m_seedKnown) {
+    m_lastReading = reading;
+    m_seed = mix64(reading ^ m_salt);
+    m_seedKnown = true;
+  }
+  // The draw count walks the seed along an odd constant (a full-period
+  // sequence), and the mix spreads every step over all the bits.
+  const std::uint64_t bits = mix64(m_seed + 0xd1b54a32d192ed03ULL * ++m_draws);
   return static_cast<double>(bits >> 11) * 0x1.0p-53;  // 53 random bits in [0, 1)
 }
 

@@ -17,6 +17,9 @@ class RandomSource {
 
   // Draws from the system's time of day.
   RandomSource();
+  // Draws from the system's time of day, told apart from other such
+  // sources by `salt` (sources made in the same instant still differ).
+  static RandomSource timed(std::uint64_t salt);
   // Draws from the given clock; `salt` tells apart sources sharing a clock.
   explicit RandomSource(Clock clock, std::uint64_t salt = 0);
 
@@ -38,6 +41,9 @@ class RandomSource {
   Clock m_clock;  // empty for seeded sources
   std::uint64_t m_salt = 0;
   std::uint64_t m_draws = 0;
+  std::uint64_t m_lastReading = 0;
+  std::uint64_t m_seed = 0;
+  bool m_seedKnown = false;
 };
 
 }  // namespace combwise

@@ -63,16 +63,6 @@ double leadingValue(std::string_view text) {
 
 long long leadingWhole(std::string_view text) { return roundHalfEven(leadingValue(text)); }
 
-long long roundHalfEven(double value) {
-  if (!std::isfinite(value)) return 0;
-  return static_cast<long long>(std::nearbyint(value));  // default rounding mode: to nearest, ties to even
-}
-
-long long floorWhole(double value) {
-  if (!std::isfinite(value)) return 0;
-  return static_cast<long long>(std::floor(value));
-}
-
 std::string toUpper(std::string_view text) {
   std::string out(text);
   std::transform(out.begin(), out.end(), out.begin(),

@@ -3,6 +3,7 @@
 // rounding rules for real-to-integer conversions.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -34,11 +35,17 @@ double leadingValue(std::string_view text);
 long long leadingWhole(std::string_view text);
 
 // Real to integer, the nearest whole number with halves to even (2.5 -> 2,
-// 3.5 -> 4, -2.5 -> -2).
-long long roundHalfEven(double value);
+// 3.5 -> 4, -2.5 -> -2). Values beyond the range of long long give 0.
+inline long long roundHalfEven(double value) {
+  // nearbyint rounds in the default mode: to nearest, ties to even.
+  return std::isfinite(value) && std::fabs(value) < 9.2e18 ? static_cast<long long>(std::nearbyint(value)) : 0;
+}
 
 // "Integer part" of a value: rounds down (-1.5 -> -2).
-long long floorWhole(double value);
+inline long long floorWhole(double value) {
+  if (value >= 0.0 && value < 9.2e18) return static_cast<long long>(value);  // truncation is the floor here
+  return std::isfinite(value) && value > -9.2e18 ? static_cast<long long>(std::floor(value)) : 0;
+}
 
 // ASCII case conversion (the program's texts are single-byte).
 std::string toUpper(std::string_view text);

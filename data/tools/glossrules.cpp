@@ -1,0 +1,163 @@
+// Gloss cleaning, the offensive-sense markers and the answer's obvious forms.
+#include "data/tools/glossrules.h"
+
+#include <algorithm>
+#include <array>
+
+namespace combwise::wordconv {
+
+namespace {
+
+bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+char lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+bool isVowel(char c) { return c == 'a' || c == 'e' || c == 'i' || c == 'o' || c == 'u'; }
+
+std::string_view trimSeparators(std::string_view text) {
+  constexpr std::string_view kJunk = " \t;,:";
+  const auto first = text.find_first_not_of(kJunk);
+  if (first == std::string_view::npos) return {};
+  const auto last = text.find_last_not_of(kJunk);
+  return text.substr(first, last - first + 1);
+}
+
+// Splits at the ";" that stand outside double quotes: examples may hold one.
+std::vector<std::string_view> splitParts(std::string_view gloss) {
+  std::vector<std::string_view> parts;
+  bool quoted = false;
+  std::size_t start = 0;
+  for (std::size_t i = 0; i < gloss.size(); ++i) {
+    if (gloss[i] == '"') quoted = !quoted;
+    if (gloss[i] == ';' && !quoted) {
+      parts.push_back(gloss.substr(start, i - start));
+      start = i + 1;
+    }
+  }
+  parts.push_back(gloss.substr(start));
+  return parts;
+}
+
+// A few glosses run an example on after ":" or "," instead of ";".
+std::string_view cutRunOnExample(std::string_view part) {
+  for (std::size_t i = 0; i < part.size(); ++i) {
+    if (part[i] != ':' && part[i] != ',') continue;
+    const auto next = part.find_first_not_of(' ', i + 1);
+    if (next != std::string_view::npos && part[next] == '"') return part.substr(0, i);
+  }
+  return part;
+}
+
+std::vector<std::string> lowerWords(std::string_view text) {
+  std::vector<std::string> words;
+  std::string word;
+  for (const char c : text) {
+    if (isLetter(c)) {
+      word += lower(c);
+    } else if (!word.empty()) {
+      words.push_back(std::move(word));
+      word.clear();
+    }
+  }
+  if (!word.empty()) words.push_back(std::move(word));
+  return words;
+}
+
+void addForm(std::vector<std::string>& forms, std::string form) {
+  if (form.size() < 3) return;  // two-letter "bases" such as "it" of "its" are other words
+  if (std::find(forms.begin(), forms.end(), form) == forms.end()) forms.push_back(std::move(form));
+}
+
+}  // namespace
+
+std::string cleanGloss(std::string_view gloss) {
+  std::string kept;
+  for (std::string_view part : splitParts(gloss)) {
+    part = trimSeparators(part);
+    if (part.empty() || part.front() == '"') continue;
+    part = trimSeparators(cutRunOnExample(part));
+    if (part.empty()) continue;
+    if (!kept.empty()) kept += "; ";
+    kept += part;
+  }
+  std::string clue;
+  for (const char c : kept) {
+    if (c == '"' || c < ' ' || c > '~') continue;
+    if (c == ' ' && (clue.empty() || clue.back() == ' ')) continue;
+    clue += c;
+  }
+  return std::string(trimSeparators(clue));
+}
+
+bool hasOffensiveMarker(std::string_view text) {
+  constexpr std::array<std::string_view, 2> kAlwaysMarks = {"disparaging", "derogatory"};
+  // A slur is also a curved line in music.
+  constexpr std::array<std::string_view, 2> kSlurKinds = {"ethnic", "racial"};
+  constexpr std::array<std::string_view, 3> kMarks = {"offensive", "vulgar", "obscene"};
+  // "offensive" alone also names a military attack or a football team.
+  constexpr std::array<std::string_view, 10> kMarkedNouns = {"term",  "terms", "name",       "names",       "word",
+                                                             "words", "slang", "expression", "expressions", "language"};
+  const std::vector<std::string> words = lowerWords(text);
+  const auto isIn = [](const auto& list, std::string_view word) {
+    return std::find(list.begin(), list.end(), word) != list.end();
+  };
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (isIn(kAlwaysMarks, words[i])) return true;
+    if (words[i].starts_with("slur") && i > 0 && isIn(kSlurKinds, words[i - 1])) return true;
+    if (!isIn(kMarks, words[i])) continue;
+    if (i + 1 < words.size() && isIn(kMarkedNouns, words[i + 1])) return true;
+  }
+  std::string lowered(text);
+  std::transform(lowered.begin(), lowered.end(), lowered.begin(), lower);
+  for (const std::string_view mark : {"(offensive", "(vulgar", "(obscene", "(slur"}) {
+    if (lowered.find(mark) != std::string::npos) return true;
+  }
+  return false;
+}
+
+std::vector<std::string> obviousForms(std::string_view word) {
+  std::vector<std::string> forms;
+  std::string w(word);
+  std::transform(w.begin(), w.end(), w.begin(), lower);
+  if (w.empty()) return forms;
+  forms.push_back(w);
+
+  const char last = w.back();
+  const std::string butLast = w.substr(0, w.size() - 1);
+  for (const char* ending : {"s", "es", "ed", "ing", "er", "est"}) addForm(forms, w + ending);
+  if (last == 'y' && w.size() >= 2 && !isVowel(w[w.size() - 2])) {
+    for (const char* ending : {"ies", "ied", "ier", "iest"}) addForm(forms, butLast + ending);
+  }
+  if (last == 'e') {
+    for (const char* ending : {"d", "r", "st"}) addForm(forms, w + ending);
+    addForm(forms, butLast + "ing");
+  }
+  if (!isVowel(last) && last != 'w' && last != 'x' && last != 'y') {
+    for (const char* ending : {"ed", "ing", "er", "est"}) addForm(forms, w + last + ending);
+  }
+
+  // The word may itself be such a form: then its base gives it away too.
+  // Comparatives are left out here: "forest" and "offer" are not forms of
+  // "for" and "off".
+  const auto endsWith = [&w](std::string_view ending) { return w.size() > ending.size() && w.ends_with(ending); };
+  const auto stem = [&w](std::size_t cut) { return w.substr(0, w.size() - cut); };
+  const auto addStem = [&forms](const std::string& base) {
+    if (base.size() < 3) return;  // "thing" is no form of "th" or "the"
+    addForm(forms, base);
+    addForm(forms, base + "e");
+    if (base.size() >= 2 && base.back() == base[base.size() - 2]) addForm(forms, base.substr(0, base.size() - 1));
+  };
+  if (endsWith("ies") || endsWith("ied")) addForm(forms, stem(3) + "y");
+  if (endsWith("es")) addForm(forms, stem(2));
+  if (endsWith("s") && !endsWith("ss")) addForm(forms, stem(1));
+  if (endsWith("ed")) addStem(stem(2));
+  if (endsWith("ing")) addStem(stem(3));
+  return forms;
+}
+
+bool showsAnyForm(std::string_view text, const std::vector<std::string>& forms) {
+  for (const std::string& word : lowerWords(text)) {
+    if (std::find(forms.begin(), forms.end(), word) != forms.end()) return true;
+  }
+  return false;
+}
+
+}  // namespace combwise::wordconv

@@ -1,0 +1,31 @@
+// The command-line tool's commands. Each takes its own arguments (after the
+// command's name) and returns the exit status: 0 success, 1 a failure of
+// the work (an unreadable file, a bad puzzle), 2 bad arguments.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace combwise::cli {
+
+struct Context {
+  std::string programFolder;  // ends with a separator
+  std::ostream& out;
+  std::ostream& err;
+  bool progressOnTerminal = false;  // err is a terminal: draw progress bars
+
+  std::string dictionaryPath() const { return programFolder + "english3.txt"; }
+  std::string meaningsPath() const { return programFolder + "mean3456.txt"; }
+};
+
+using Arguments = std::vector<std::string>;
+
+int runCreate(Context& context, const Arguments& args);
+int runBatch(Context& context, const Arguments& args);
+int runRandomize(Context& context, const Arguments& args);
+int runShow(Context& context, const Arguments& args);
+int runClues(Context& context, const Arguments& args);
+int runCheck(Context& context, const Arguments& args);
+
+}  // namespace combwise::cli

@@ -1,0 +1,137 @@
+// The commands that make puzzles: create and batch.
+#include <algorithm>
+#include <chrono>
+#include <limits>
+#include <cstdio>
+#include <ostream>
+
+#include "cli/args.h"
+#include "cli/commands.h"
+#include "cli/progressbar.h"
+#include "core/files/dictionary.h"
+#include "core/generator/batch.h"
+#include "core/generator/puzzlemaker.h"
+#include "core/model/text.h"
+
+namespace combwise::cli {
+namespace {
+
+constexpr const char* kCreateHelp =
+    "Usage: combwise-cli create --size N --output FILE [--count K] [--jobs J] [--seed S]\n"
+    "                           [--dictionary PATH] [--meanings PATH]\n"
+    "\n"
+    "Appends K new puzzles (default 1) of size N (7, 10, 17 or 22) to FILE.\n"
+    "  --jobs J          puzzles made side by side (default: one per core); the\n"
+    "                    lines are appended in puzzle order all the same\n"
+    "  --seed S          a reproducible run: the same seed gives the same file\n"
+    "                    whatever --jobs is\n"
+    "  --dictionary PATH the word list (default: english3.txt in the program folder)\n"
+    "  --meanings PATH   the meanings file (default: mean3456.txt in the program folder)\n";
+
+constexpr const char* kBatchHelp =
+    "Usage: combwise-cli batch [--count K] [--jobs J] [--seed S]\n"
+    "\n"
+    "Appends 2000 puzzles (or K) of size 17, made from the program folder's\n"
+    "english3.txt, to puz-18sepsize17D.txt in the program folder. The file is\n"
+    "extended, never truncated.\n";
+
+struct LoadedWords {
+  Dictionary dictionary;
+  Meanings meanings;
+};
+
+// Reads the dictionary and meanings, saying what failed.
+bool loadWords(Context& context, const std::string& dictionaryPath, const std::string& meaningsPath, LoadedWords& words) {
+  if (Status read = readDictionary(dictionaryPath, words.dictionary); !read.ok()) {
+    context.err << "combwise-cli: " << read.error << "\n";
+    return false;
+  }
+  if (Status read = words.meanings.read(meaningsPath); !read.ok()) {
+    context.err << "combwise-cli: " << read.error << "\n";
+    return false;
+  }
+  return true;
+}
+
+// Appends the puzzles, with a progress bar, and reports the time taken.
+int appendPuzzles(Context& context, const std::string& output, const LoadedWords& words, const LineRunOptions& options) {
+  ProgressBar bar(context.err, options.count, context.progressOnTerminal);
+  const auto start = std::chrono::steady_clock::now();
+  const Status status = appendPuzzleLines(output, words.dictionary, words.meanings, options,
+                                          [&bar](int done) { bar.update(done); });
+  bar.finish();
+  if (!status.ok()) {
+    context.err << "combwise-cli: " << status.error << "\n";
+    return 1;
+  }
+  const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  char timing[96];
+  std::snprintf(timing, sizeof timing, "%.3f s (%.1f puzzles/s)", seconds, options.count / std::max(seconds, 1e-9));
+  context.out << "Appended " << options.count << " puzzles of size " << options.size << " to " << output << " in "
+              << timing << "\n";
+  return 0;
+}
+
+bool readRunOptions(ParsedArgs& parsed, LineRunOptions& options) {
+  if (auto jobs = parsed.number("--jobs", 1, 256)) options.jobs = static_cast<int>(*jobs);
+  if (auto seed = parsed.number("--seed", 0, std::numeric_limits<long long>::max())) options.seed = static_cast<std::uint64_t>(*seed);
+  return parsed.error.empty();
+}
+
+}  // namespace
+
+int runCreate(Context& context, const Arguments& args) {
+  ParsedArgs parsed = parseArgs(args, {"--size", "--count", "--jobs", "--seed", "--dictionary", "--meanings", "--output"}, {"--help"});
+  if (parsed.has("--help")) {
+    context.out << kCreateHelp;
+    return 0;
+  }
+  LineRunOptions options;
+  const auto size = parsed.number("--size", 0, 1000);
+  if (const auto count = parsed.number("--count", 1, 100000000)) options.count = static_cast<int>(*count);
+  readRunOptions(parsed, options);
+  const auto output = parsed.value("--output");
+  if (parsed.error.empty() && !parsed.positional.empty()) parsed.error = "unexpected argument '" + parsed.positional.front() + "'";
+  if (parsed.error.empty() && !size) parsed.error = "--size is required";
+  if (parsed.error.empty() && !Board::isValidSize(static_cast<int>(*size)))
+    parsed.error = "--size must be 7, 10, 17 or 22, not " + NumberText(*size);
+  if (parsed.error.empty() && (!output || output->empty())) parsed.error = "--output is required";
+  if (!parsed.error.empty()) {
+    context.err << "combwise-cli create: " << parsed.error << "\n\n" << kCreateHelp;
+    return 2;
+  }
+  options.size = static_cast<int>(*size);
+  const std::string dictionaryPath = parsed.value("--dictionary").value_or(context.dictionaryPath());
+  if (PuzzleMaker::refuses(dictionaryPath, options.size)) {
+    context.err << "combwise-cli create: " << kLargePuzzleRefusal << "\n";
+    return 1;
+  }
+  LoadedWords words;
+  if (!loadWords(context, dictionaryPath, parsed.value("--meanings").value_or(context.meaningsPath()), words)) return 1;
+  return appendPuzzles(context, *output, words, options);
+}
+
+int runBatch(Context& context, const Arguments& args) {
+  ParsedArgs parsed = parseArgs(args, {"--count", "--jobs", "--seed"}, {"--help"});
+  if (parsed.has("--help")) {
+    context.out << kBatchHelp;
+    return 0;
+  }
+  LineRunOptions options;
+  options.size = kBatchSize;
+  options.count = kBatchCount;
+  if (const auto count = parsed.number("--count", 1, 100000000)) options.count = static_cast<int>(*count);
+  readRunOptions(parsed, options);
+  if (parsed.error.empty() && !parsed.positional.empty()) parsed.error = "unexpected argument '" + parsed.positional.front() + "'";
+  if (!parsed.error.empty()) {
+    context.err << "combwise-cli batch: " << parsed.error << "\n\n" << kBatchHelp;
+    return 2;
+  }
+  LoadedWords words;
+  if (!loadWords(context, context.dictionaryPath(), context.meaningsPath(), words)) return 1;
+  const int status = appendPuzzles(context, context.programFolder + kBatchFile, words, options);
+  if (status == 0) context.out << "done\n";
+  return status;
+}
+
+}  // namespace combwise::cli

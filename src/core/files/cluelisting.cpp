@@ -1,0 +1,31 @@
+// The clue listing's text lines.
+#include "core/files/cluelisting.h"
+
+#include "core/files/textfile.h"
+#include "core/model/text.h"
+
+namespace combwise {
+
+std::string clueNumber(int slot) { return Format00((slot + 1) / 2); }
+
+std::vector<std::string> clueListingLines(const PuzzleState& state, const ListingBanner& banner) {
+  const int words = std::min(state.WordCount, PuzzleState::kMaxSlots);
+  std::vector<std::string> lines;
+  lines.push_back(" " + banner.productName + " - " + banner.makerSite + " (word letters can be in any order)");
+  lines.push_back(" Puz#" + Str(state.PuzzleNumber) + ": " + state.CollectionPath);
+  lines.emplace_back();
+  lines.emplace_back(" INSIDE CLUES:");
+  for (int k = 2; k <= words; k += 2) lines.push_back(" " + clueNumber(k) + ". " + state.ClueTexts[k]);
+  lines.emplace_back();
+  lines.emplace_back(" OUTSIDE CLUES:");
+  for (int k = 1; k <= words; k += 2) lines.push_back(" " + clueNumber(k) + ". " + state.ClueTexts[k]);
+  return lines;
+}
+
+Status writeClueListing(const std::string& path, const PuzzleState& state, const ListingBanner& banner) {
+  if (!writeLines(path, clueListingLines(state, banner), WriteMode::Truncate))
+    return Status::failure("Cannot write " + path);
+  return Status::success();
+}
+
+}  // namespace combwise

@@ -1,0 +1,275 @@
+// The puzzle generator: tries, placement with verification, completion.
+#include "core/generator/generator.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "core/generator/letters.h"
+#include "core/model/text.h"
+
+namespace combwise {
+namespace {
+
+constexpr int kMaxAttempts = 500;
+constexpr std::size_t kStride = Board::kMaxCol + 1;
+
+std::size_t cellIndex(const Board& board, int cell) {
+  return static_cast<std::size_t>(board.CellRow(cell)) * kStride + static_cast<std::size_t>(board.CellCol(cell));
+}
+
+// Up to six characters, upper-cased, packed with their count into one value.
+std::uint64_t packUpper(std::string_view letters) {
+  std::uint64_t packed = static_cast<std::uint64_t>(letters.size()) << 56;
+  for (std::size_t i = 0; i < letters.size(); ++i) {
+    const auto c = static_cast<unsigned char>(letters[i]);
+    const auto upper = static_cast<std::uint64_t>(c >= 'a' && c <= 'z' ? c - ('a' - 'A') : c);
+    packed |= upper << (8 * i);
+  }
+  return packed;
+}
+
+}  // namespace
+
+// One try's scratch: the letter grid and the spare letters for free cells
+// (0 for an empty cell), the pool cursors and the attempt counter; and the
+// board's cells as grid indexes, looked up once per puzzle, since the tries
+// read them millions of times. Index 0 (row 0, column 0) never holds a
+// letter and stands for "no cell".
+struct PuzzleGenerator::Work {
+  std::array<char, (Board::kMaxRow + 1) * kStride> letters{};
+  std::array<char, (Board::kMaxRow + 1) * kStride> spare{};
+  std::array<int, 4> cursor{};
+  int attempts = 0;
+
+  int hexCount = 0;
+  std::array<std::array<std::size_t, Board::kRing>, Board::kMaxHex + 1> inside{};
+  std::array<std::array<std::size_t, Board::kRing>, Board::kMaxHex + 1> outside{};
+  std::array<int, Board::kMaxHex + 1> outsideCount{};
+  // The hexagons whose inside cells a hexagon's outside cells are, ascending.
+  std::array<std::array<int, Board::kRing>, Board::kMaxHex + 1> touched{};
+  std::array<int, Board::kMaxHex + 1> touchedCount{};
+
+  explicit Work(const Board& board) : hexCount(board.hexCount()) {
+    for (int hex = 1; hex <= hexCount; ++hex) {
+      outsideCount[hex] = board.outsideCount(hex);
+      for (int k = 1; k <= Board::kRing; ++k) {
+        inside[hex][k - 1] = cellIndex(board, board.InsideCells(hex, k));
+        const int cell = board.OutsideCells(hex, k);
+        outside[hex][k - 1] = cell ? cellIndex(board, cell) : 0;
+        if (!cell) continue;
+        const int other = board.HexAt(board.CellRow(cell), board.CellCol(cell));
+        auto& list = touched[hex];
+        int& count = touchedCount[hex];
+        if (std::find(list.begin(), list.begin() + count, other) != list.begin() + count) continue;
+        list[static_cast<std::size_t>(count++)] = other;
+        std::sort(list.begin(), list.begin() + count);
+      }
+    }
+  }
+
+  // The non-empty inside letters in ring order; returns how many.
+  int insideLetters(int hex, char* out) const {
+    int n = 0;
+    for (std::size_t at : inside[hex]) {
+      if (const char c = letters[at]) out[n++] = c;
+    }
+    return n;
+  }
+  std::string insideLetters(int hex) const {
+    char buffer[Board::kRing];
+    return std::string(buffer, static_cast<std::size_t>(insideLetters(hex, buffer)));
+  }
+
+  // Positions that are 0, empty or hold a hexagon number are skipped.
+  std::string outsideLetters(int hex) const {
+    std::string out;
+    for (std::size_t at : outside[hex]) {
+      const char c = letters[at];
+      if (c != 0 && !(c >= '1' && c <= '9')) out += c;
+    }
+    return out;
+  }
+};
+
+PuzzleGenerator::PuzzleGenerator(const Dictionary& dictionary, const Meanings& meanings, GeneratorForm form)
+    : m_dictionary(dictionary),
+      m_meanings(meanings),
+      m_form(form),
+      m_pools{WordPool(&dictionary.Words3.items()), WordPool(&dictionary.Words4.items()),
+              WordPool(&dictionary.Words5.items()), WordPool(&dictionary.Words6.items())} {
+  // Every prefix (1 to 6 letters) of every key's sorted letters: a hexagon
+  // passes when its sorted inside letters are one of them.
+  for (const auto& key : dictionary.SixLetterKeys.items()) {
+    for (std::size_t length = 1; length <= std::min<std::size_t>(6, key.size()); ++length)
+      m_keyPrefixes.push_back(packUpper(std::string_view(key).substr(0, length)));
+  }
+  std::sort(m_keyPrefixes.begin(), m_keyPrefixes.end());
+  m_keyPrefixes.erase(std::unique(m_keyPrefixes.begin(), m_keyPrefixes.end()), m_keyPrefixes.end());
+}
+
+bool PuzzleGenerator::canGenerate() const {
+  return std::all_of(m_pools.begin(), m_pools.end(), [](const WordPool& pool) { return pool.count() >= 2; });
+}
+
+void PuzzleGenerator::resetPools() {
+  for (auto& pool : m_pools) pool.resetOrder();
+}
+
+bool PuzzleGenerator::generate(const Board& board, PuzzleState& state, RandomSource& random,
+                               const GeneratorHooks& hooks) {
+  if (!canGenerate() || board.hexCount() == 0) return false;
+  Work work(board);
+  for (;;) {
+    if (hooks.stop && hooks.stop()) return false;
+    ++m_stats.tries;
+    if (tryOnce(board, work, random, hooks) && complete(board, work, state)) break;
+  }
+  attachClues(state, m_meanings, random);
+  return true;
+}
+
+bool PuzzleGenerator::tryOnce(const Board& board, Work& work, RandomSource& random, const GeneratorHooks& hooks) {
+  report(hooks.status, "Reset ...");
+  work.attempts = 0;
+  pump(hooks.events);
+  work.cursor.fill(-1);
+  work.letters.fill(0);
+  work.spare.fill(0);
+  for (auto& pool : m_pools) pool.shuffle(random, m_form);
+
+  for (int hex = 1; hex <= board.hexCount(); ++hex) {
+    pump(hooks.events);
+    for (;;) {
+      // A pool's last word is never a candidate: the try ends when the next
+      // candidate of any pool would be its last word or beyond.
+      for (std::size_t p = 0; p < m_pools.size(); ++p) {
+        if (work.cursor[p] + 1 >= m_pools[p].count() - 1) return false;
+      }
+      if (++work.attempts > kMaxAttempts) return false;
+      ++m_stats.attempts;
+
+      int n = work.outsideCount[hex];
+      const std::size_t p = static_cast<std::size_t>(n - 3);
+      const std::string shuffled = shuffleLetters(m_pools[p].at(++work.cursor[p]), random);
+      // The shuffled word is laid from its last letter to its first.
+      for (std::size_t k = 0; k < Board::kRing && n > 0; ++k) {
+        if (const std::size_t at = work.outside[hex][k]) work.letters[at] = shuffled[static_cast<std::size_t>(--n)];
+      }
+
+      int failed = 0;
+      if (verifyAfterPlacing(work, hex, failed)) break;
+      if (hooks.status) hooks.status("Solve hex" + Str(hex) + " -" + Str(failed) + " not verified");
+    }
+  }
+  return true;
+}
+
+// Every hexagon with inside letters must have them, sorted, as the start of
+// some six-letter word's sorted letters. Placing a hexagon's outside word
+// changes only the hexagons it borders, and all others passed before, so
+// the fast form checks just those (in ascending order, so the first failure
+// reported is the same).
+bool PuzzleGenerator::verifyAfterPlacing(const Work& work, int placed, int& failed) const {
+  const bool fast = m_form == GeneratorForm::Fast;
+  const int total = fast ? work.touchedCount[placed] : work.hexCount;
+  for (int i = 0; i < total; ++i) {
+    const int hex = fast ? work.touched[placed][static_cast<std::size_t>(i)] : i + 1;
+    char letters[Board::kRing];
+    const int n = work.insideLetters(hex, letters);
+    if (n == 0) continue;
+    // Sorted by character code, as the keys' letters are.
+    for (int j = 1; j < n; ++j) {
+      const char c = letters[j];
+      int k = j;
+      for (; k > 0 && static_cast<unsigned char>(letters[k - 1]) > static_cast<unsigned char>(c); --k) letters[k] = letters[k - 1];
+      letters[k] = c;
+    }
+    const std::string_view key(letters, static_cast<std::size_t>(n));
+    const bool found = fast ? std::binary_search(m_keyPrefixes.begin(), m_keyPrefixes.end(), packUpper(key))
+                            : m_dictionary.SixLetterKeys.containsPrefix(key);
+    if (!found) {
+      failed = hex;
+      return false;
+    }
+  }
+  return true;
+}
+
+bool PuzzleGenerator::complete(const Board& board, Work& work, PuzzleState& state) {
+  m_summary.clear();
+  const WordPool& six = m_pools[3];
+  for (int hex = 1; hex <= board.hexCount(); ++hex) {
+    const std::string inside = work.insideLetters(hex);
+    const int found = six.firstContaining(inside, 6, m_form);
+    if (found < 0) return false;  // only with keys and pools that disagree on case
+    const std::string& word = six.at(found);
+    m_summary.push_back(Format00(hex) + "I " + inside + " " + word);
+    if (inside.size() < 6) {
+      const std::string rest = remainingLetters(word, inside);
+      std::size_t next = 0;
+      for (int k = 1; k <= Board::kRing && next < rest.size(); ++k) {
+        const std::size_t at = work.inside[hex][static_cast<std::size_t>(k - 1)];
+        if (work.letters[at] == 0) work.spare[at] = rest[next++];
+      }
+    }
+  }
+
+  std::string word;
+  for (int hex = 1; hex <= board.hexCount(); ++hex) {
+    const std::string outside = work.outsideLetters(hex);
+    const int n = static_cast<int>(outside.size());
+    if (n >= 3 && n <= 6) {
+      const WordPool& pool = m_pools[static_cast<std::size_t>(n - 3)];
+      const int found = pool.firstContaining(outside, n, m_form);
+      if (found < 0) return false;
+      word = pool.at(found);
+    }
+    m_summary.push_back(Format00(hex) + "E " + outside + " " + word);
+  }
+
+  for (int hex = 1; hex <= board.hexCount(); ++hex) {
+    for (int k = 1; k <= Board::kRing; ++k) {
+      const std::size_t at = work.inside[hex][static_cast<std::size_t>(k - 1)];
+      if (work.letters[at] == 0) work.letters[at] = work.spare[at];
+    }
+  }
+
+  std::stable_sort(m_summary.begin(), m_summary.end(),
+                   [](const std::string& a, const std::string& b) { return SortedKeyList::less(a, b); });
+
+  state.Letters.clear();
+  for (int row = 1; row <= board.rows(); ++row) {
+    for (int col = 1; col <= board.cols(); ++col) {
+      if (const char c = work.letters[static_cast<std::size_t>(row) * kStride + static_cast<std::size_t>(col)])
+        state.Letters.at(row, col) = std::string(1, c);
+    }
+  }
+  state.clearSlots();
+  for (std::size_t i = 0; i < m_summary.size() && i < PuzzleState::kMaxSlots; ++i) {
+    // The third blank-separated field of a summary line is its word.
+    const std::string& line = m_summary[i];
+    const auto first = line.find(' ');
+    const auto second = line.find(' ', first + 1);
+    state.WordSlots[i + 1] = line.substr(second + 1);
+  }
+  return true;
+}
+
+void attachClues(PuzzleState& state, const Meanings& meanings, RandomSource& random) {
+  const auto& lines = meanings.lines().items();
+  for (int slot = 1; slot <= state.WordCount && slot <= PuzzleState::kMaxSlots; ++slot) {
+    const std::string key = toUpper(state.WordSlots[slot]) + ":";
+    const int first = meanings.firstLine(key);
+    if (first < 0) {
+      state.MeaningNumbers[slot] = 0;
+      state.ClueTexts[slot].clear();
+      continue;
+    }
+    const int count = meanings.countLines(key, first);
+    const int number = count == 1 ? 1 : static_cast<int>(floorWhole(random.next() * count + 1));
+    state.MeaningNumbers[slot] = number;
+    state.ClueTexts[slot] = lines[static_cast<std::size_t>(first + number - 1)].substr(key.size());
+  }
+}
+
+}  // namespace combwise

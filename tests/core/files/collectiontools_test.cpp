@@ -1,0 +1,116 @@
+// Randomize: which lines survive de-duplication, where the output goes,
+// and that a seeded shuffle is reproducible.
+#include "core/files/collectiontools.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <random>
+
+#include "core/files/tempfolder.h"
+#include "core/files/textfile.h"
+#include "core/model/text.h"
+
+namespace combwise {
+namespace {
+
+using ::testing::Contains;
+using ::testing::UnorderedElementsAreArray;
+
+// The rule as stated, one line against every kept line.
+std::vector<std::string> keptLines(const std::vector<std::string>& lines) {
+  std::vector<std::string> kept;
+  for (const auto& line : lines) {
+    if (std::none_of(kept.begin(), kept.end(), [&](const std::string& k) { return startsWithIgnoreCase(k, line); }))
+      kept.push_back(line);
+  }
+  return kept;
+}
+
+TEST(RandomizedPath, CutsAtTheLastDotOfTheWholePathAndFailsWithoutOne) {
+  EXPECT_EQ(randomizedPath("/home/me/set1.txt"), "/home/me/set1-noduprandom.txt");
+  EXPECT_EQ(randomizedPath("/home/my.files/set1"), "/home/my-noduprandom.txt");
+  EXPECT_EQ(randomizedPath("/home/me/set1"), std::nullopt);
+
+  TempFolder folder;
+  RandomSource random = RandomSource::seeded(1);
+  const auto result = randomizeCollection(folder.file("set1"), random);
+  EXPECT_FALSE(result.status.ok());
+  EXPECT_THAT(result.message, ::testing::HasSubstr("no extension"));
+  EXPECT_FALSE(randomizeCollection(folder.file("missing.txt"), random).status.ok());
+
+  ASSERT_TRUE(writeLines(folder.file("set.txt"), {"a"}, WriteMode::Truncate));
+  std::filesystem::create_directory(folder.file("set-noduprandom.txt"));  // the output cannot be written
+  EXPECT_FALSE(randomizeCollection(folder.file("set.txt"), random).status.ok());
+}
+
+TEST(Randomize, DropsRepeatsCaseVariantsAndBeginningsOfEarlierLines) {
+  TempFolder folder;
+  const std::string source = folder.file("set1.txt");
+  const std::vector<std::string> lines = {"7;ABC;TEA,1;",  "7;ABC;TEA,1;", "7;abc;tea,1;", "7;AB",
+                                          "7;ABC;TEA,1;X", "10;Z;",        "7;ABC;TEA,1;"};
+  ASSERT_TRUE(writeLines(source, lines, WriteMode::Truncate));
+  ASSERT_TRUE(writeLines(folder.file("set1-noduprandom.txt"), {"old", "old"}, WriteMode::Truncate));
+  std::vector<std::string> progress;
+  int pumped = 0;
+  RandomSource random = RandomSource::seeded(42);
+  const auto result = randomizeCollection(
+      source, random, [&](const std::string& text) { progress.push_back(text); }, [&] { ++pumped; });
+
+  ASSERT_TRUE(result.status.ok()) << result.status.error;
+  EXPECT_EQ(result.outputPath, folder.file("set1-noduprandom.txt"));
+  EXPECT_EQ(result.message, result.outputPath + " randomized");
+  EXPECT_EQ(result.readCount, 7);
+  EXPECT_EQ(result.distinctCount, 3);
+  EXPECT_EQ(pumped, 7);
+  EXPECT_THAT(*readLines(result.outputPath), UnorderedElementsAreArray({"7;ABC;TEA,1;", "7;ABC;TEA,1;X", "10;Z;"}));
+  EXPECT_EQ(*readLines(source), lines);
+  EXPECT_EQ(progress.front(), "source 1 1");
+  EXPECT_THAT(progress, Contains("source 7 3"));
+  EXPECT_THAT(progress, Contains("no dup 3"));
+  EXPECT_EQ(progress.back(), "random 3");
+}
+
+TEST(Randomize, ASeededSourceGivesTheSameOrderEveryTime) {
+  TempFolder folder;
+  const std::string source = folder.file("big.txt");
+  std::vector<std::string> lines;
+  for (int i = 0; i < 200; ++i) lines.push_back("7;PUZZLE" + NumberText(1000 + i) + ";");
+  ASSERT_TRUE(writeLines(source, lines, WriteMode::Truncate));
+
+  const auto shuffled = [&](std::uint64_t seed) {
+    RandomSource random = RandomSource::seeded(seed);
+    EXPECT_TRUE(randomizeCollection(source, random).status.ok());
+    return *readLines(folder.file("big-noduprandom.txt"));
+  };
+  const auto first = shuffled(3);
+  EXPECT_EQ(shuffled(3), first);
+  EXPECT_NE(shuffled(4), first);
+  EXPECT_THAT(first, UnorderedElementsAreArray(lines));
+}
+
+TEST(Randomize, RandomCollectionsKeepExactlyTheLinesTheRuleKeeps) {
+  TempFolder folder;
+  std::mt19937 engine(11);
+  const std::string alphabet = "aAbB;";
+  for (int round = 0; round < 40; ++round) {
+    std::vector<std::string> lines;
+    for (int i = 0; i < 150; ++i) {
+      std::string line;
+      for (std::size_t n = engine() % 7; n > 0; --n) line += alphabet[engine() % alphabet.size()];
+      lines.push_back(line);
+    }
+    ASSERT_TRUE(writeLines(folder.file("r.txt"), lines, WriteMode::Truncate));
+    RandomSource random = RandomSource::seeded(round);
+    const auto result = randomizeCollection(folder.file("r.txt"), random);
+    ASSERT_TRUE(result.status.ok());
+    const auto kept = keptLines(lines);
+    EXPECT_EQ(result.distinctCount, static_cast<long long>(kept.size()));
+    EXPECT_THAT(*readLines(result.outputPath), UnorderedElementsAreArray(kept));
+  }
+}
+
+}  // namespace
+}  // namespace combwise

@@ -1,0 +1,92 @@
+// The dictionary pools, the anagram keys, and clue lookup by meaning number.
+#include "core/files/dictionary.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+
+#include "core/files/tempfolder.h"
+#include "core/files/textfile.h"
+
+namespace combwise {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+TEST(DictionaryFile, LinesGoToThePoolOfTheirLengthAsTheyStand) {
+  TempFolder folder;
+  const std::string first = folder.file("first.txt");
+  ASSERT_TRUE(writeLines(first, {"TEA", "TEA ", "SEAT", "TEARS", "STREAM", "ABCDEF", "MASTER", "ab", "SEVENTH"},
+                         WriteMode::Truncate));
+  Dictionary dictionary;
+  int pumped = 0;
+  ASSERT_TRUE(readDictionary(first, dictionary, [&] { ++pumped; }).ok());
+  EXPECT_EQ(pumped, 9);
+  EXPECT_EQ(dictionary.path, first);
+  EXPECT_THAT(dictionary.Words3.items(), ElementsAre("TEA"));
+  EXPECT_THAT(dictionary.Words4.items(), ElementsAre("TEA ", "SEAT"));
+  EXPECT_THAT(dictionary.Words5.items(), ElementsAre("TEARS"));
+  EXPECT_THAT(dictionary.Words6.items(), ElementsAre("STREAM", "ABCDEF", "MASTER"));
+  EXPECT_THAT(dictionary.SixLetterKeys.items(), ElementsAre("ABCDEFABCDEF", "AEMRSTMASTER", "AEMRSTSTREAM"));
+  EXPECT_EQ(dictionary.SixLetterKeys.firstWithPrefix("aemrst"), 1);
+
+  const std::string second = folder.file("second.txt");
+  ASSERT_TRUE(writeLines(second, {"SEVENTH", "LETTERS", "EIGHTEEN"}, WriteMode::Truncate));
+  ASSERT_TRUE(readDictionary(second, dictionary).ok());  // replaces, never merges
+  EXPECT_TRUE(dictionary.empty());
+  EXPECT_TRUE(dictionary.SixLetterKeys.empty());
+
+  const Status missing = readDictionary(folder.file("missing.txt"), dictionary);
+  EXPECT_FALSE(missing.ok());
+  EXPECT_THAT(missing.error, ::testing::HasSubstr("missing.txt"));
+}
+
+TEST(MeaningsFile, TheMeaningNumberPicksTheLineAndAnythingElseGivesNoClue) {
+  TempFolder folder;
+  const std::string path = folder.file("mean3456.txt");
+  ASSERT_TRUE(writeLines(
+      path, {"SEAT:a chair", "TEA:a drink", "TEAR:a drop", "TEAR:to rip", "TEAR:a spree", "TEARS:drops", "TEAS:drinks"},
+      WriteMode::Truncate));
+  Meanings meanings;
+  ASSERT_TRUE(meanings.read(path).ok());
+  EXPECT_EQ(meanings.clue("TEAR", 3), "a spree");
+  EXPECT_EQ(meanings.clue("TEAR", 4), "");  // the next line belongs to TEARS
+  EXPECT_EQ(meanings.clue("TEAR", 0), "");
+  EXPECT_EQ(meanings.clue("TEAS", 2), "");  // past the last line
+  EXPECT_EQ(meanings.clue("GONE", 1), "");
+
+  // Read once: a second read keeps the lines even when the file is gone.
+  std::filesystem::remove(path);
+  EXPECT_TRUE(meanings.read(path).ok());
+  EXPECT_EQ(meanings.lineCount(), 7);
+  EXPECT_FALSE(meanings.reload(path).ok());
+  EXPECT_FALSE(meanings.loaded());
+}
+
+TEST(DictionaryFile, RandomBytesFillOnlyThePoolsOfMatchingLength) {
+  TempFolder folder;
+  std::mt19937 engine(5);
+  for (int round = 0; round < 200; ++round) {
+    std::string content;
+    for (std::size_t n = engine() % 300; n > 0; --n) {
+      const unsigned pick = engine() % 10;
+      content += pick < 2 ? '\n' : pick < 3 ? '\r' : static_cast<char>(engine() % 256);
+    }
+    ASSERT_TRUE(replaceFileContent(folder.file("d.txt"), content));
+    Dictionary dictionary;
+    ASSERT_TRUE(readDictionary(folder.file("d.txt"), dictionary).ok());
+    for (int length = 3; length <= 6; ++length) {
+      for (const auto& word : dictionary.pool(length)->items()) ASSERT_EQ(word.size(), std::size_t(length));
+    }
+    EXPECT_EQ(dictionary.SixLetterKeys.size(), dictionary.Words6.ListCount());
+    Meanings meanings;
+    ASSERT_TRUE(meanings.read(folder.file("d.txt")).ok());
+    EXPECT_THAT(meanings.clue("", 1), IsEmpty());
+  }
+}
+
+}  // namespace
+}  // namespace combwise

@@ -1,0 +1,59 @@
+// The error log: the record written, the message shown, and that logging
+// never fails.
+#include "core/files/errorlog.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <regex>
+#include <stdexcept>
+
+#include "core/files/tempfolder.h"
+
+namespace combwise {
+namespace {
+
+TEST(ErrorLog, AppendsOneEightFieldRecordPerCall) {
+  TempFolder temp;
+  ::setenv("username", "alice", 1);
+  ::setenv("computername", "DESK1", 1);
+  ErrorLog log(temp.folder());
+  log.setStamp([] { return std::string("#2024-03-05 14:07:09#"); });
+  bool shown = false;
+  log.setShow([&shown](const std::string&, const std::string&) { shown = true; });
+  log.LogError(false, "-1", "Bad index", "clsSimpleArray", "AddItem");
+  log.LogError(false, "", "", "", "");
+  EXPECT_FALSE(shown);
+  EXPECT_EQ(TempFolder::contentOf(temp.file("ErrorLog.txt")),
+            "#2024-03-05 14:07:09#,\"-1\",\"Bad index\",\"clsSimpleArray\",\"AddItem\",\"Combwise v1.0.0\","
+            "\"alice\",\"DESK1\"\r\n"
+            "#2024-03-05 14:07:09#,\"\",\"\",\"\",\"\",\"Combwise v1.0.0\",\"alice\",\"DESK1\"\r\n");
+  EXPECT_TRUE(std::regex_match(ErrorLog::currentStamp(), std::regex("#\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d#")));
+}
+
+TEST(ErrorLog, ShowsOnlyTheGivenFieldsAndStillLogsWhenShowingFails) {
+  EXPECT_EQ(ErrorLog::message("9", "Overflow", "clsSimpleArray", "AddItem"),
+            "Error occured: 9\r\nDescription: Overflow\r\nModule: clsSimpleArray\r\nFunction: AddItem");
+  EXPECT_EQ(ErrorLog::message("", "", "", "Run"), "Error occured: \r\nFunction: Run");
+
+  TempFolder temp;
+  ErrorLog log(temp.folder());
+  std::string shown;
+  log.setShow([&shown](const std::string& title, const std::string& message) {
+    shown = title + "|" + message;
+    throw std::runtime_error("the box failed");
+  });
+  log.LogError(true, "", "As given  ", "", "");
+  EXPECT_EQ(shown, "Combwise - ERROR|Error occured: \r\nDescription: As given  \r\n");
+  EXPECT_NE(TempFolder::contentOf(temp.file("ErrorLog.txt")).find("\"As given  \""), std::string::npos);
+}
+
+TEST(ErrorLog, AnUnwritableFolderIsIgnoredSilently) {
+  TempFolder temp;
+  EXPECT_NO_THROW(ErrorLog(temp.file("no/such")).LogError(false, "1", "d", "m", "f"));
+  std::filesystem::create_directory(temp.file("ErrorLog.txt"));  // a folder where the file would be
+  EXPECT_NO_THROW(ErrorLog(temp.folder()).LogError(false, "1", "d", "m", "f"));
+}
+
+}  // namespace
+}  // namespace combwise

@@ -1,0 +1,220 @@
+// The collection line format, and writing, counting and reading puzzles
+// with the puzzle state's lifecycle.
+#include "core/files/puzzlefile.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <random>
+
+#include "core/files/tempfolder.h"
+#include "core/model/text.h"
+
+namespace combwise {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+// A puzzle of a size with a letter on every hexagon cell and a word with a
+// meaning number in every slot.
+PuzzleState filledPuzzle(int size, int seed) {
+  Board board;
+  PuzzleState state;
+  setUpPuzzle(board, state, size);
+  for (int row = 1; row <= state.GridRows; ++row) {
+    for (int col = 1; col <= state.GridCols; ++col)
+      state.Letters.at(row, col) = board.HexAt(row, col) ? std::string(1, char('A' + (seed + row * 7 + col) % 26)) : "";
+  }
+  for (int slot = 1; slot <= state.WordCount; ++slot) {
+    state.WordSlots[slot] = "W" + NumberText(seed * 100 + slot);
+    state.MeaningNumbers[slot] = slot % 3 + 1;
+  }
+  return state;
+}
+
+void expectSamePuzzle(const PuzzleState& a, const PuzzleState& b) {
+  EXPECT_EQ(a.PuzzleSize, b.PuzzleSize);
+  EXPECT_TRUE(a.Letters == b.Letters);
+  EXPECT_EQ(a.WordSlots, b.WordSlots);
+  EXPECT_EQ(a.MeaningNumbers, b.MeaningNumbers);
+  EXPECT_EQ(a.ClueTexts, b.ClueTexts);
+  EXPECT_EQ(a.CollectionPath, b.CollectionPath);
+  EXPECT_EQ(a.PuzzleNumber, b.PuzzleNumber);
+  EXPECT_EQ(a.SelRow, b.SelRow);
+  EXPECT_EQ(a.UndoList, b.UndoList);
+}
+
+TEST(DotCodes, RunsAreCompactedLongestFirstAndTheIllustrativeLineRoundTrips) {
+  const std::vector<std::pair<int, std::string>> table = {{1, "."},  {2, "*"},  {3, "&"},     {4, "^"},  {5, "%"},
+                                                          {6, "%."}, {8, "%&"}, {20, "%%%%"}, {21, "#"}, {27, "#%."}};
+  for (const auto& [run, code] : table) {
+    EXPECT_EQ(compactDots(std::string(run, '.')), code) << run;
+    EXPECT_EQ(expandDots(code), std::string(run, '.')) << run;
+  }
+  // A made-up size 2 on a 3 x 7 grid: the format alone, no board behind it.
+  const PuzzleRecord record{2, "..AT....E..R.....S...", {{"SEAT", 1}, {"TEAR", 3}}};
+  EXPECT_EQ(formatPuzzleLine(record), "2;*AT^E*R%S&;SEAT,1;TEAR,3;");
+  EXPECT_EQ(parsePuzzleLine("2;*AT^E*R%S&;SEAT,1;TEAR,3;").record, record);
+  Board board;
+  PuzzleState state;
+  EXPECT_EQ(loadPuzzleLine("2;*AT^E*R%S&;SEAT,1;TEAR,3;", board, state, {}).outcome, ReadOutcome::Malformed);
+}
+
+class CollectionFile : public ::testing::Test {
+ protected:
+  PuzzleReadResult read(const std::string& path, int n) {
+    state.PuzzleCount = countPuzzles(path);
+    return readPuzzle(path, n, board, state, {&meanings, folder.file("mean3456.txt"), {}});
+  }
+  TempFolder folder;
+  Board board;
+  PuzzleState state;
+  Meanings meanings;
+};
+
+TEST_F(CollectionFile, WrittenPuzzlesReadBackAndTheBoardIsRebuiltOnlyOnASizeSwitch) {
+  const std::string path = folder.file("set.txt");
+  const PuzzleState small = filledPuzzle(7, 1);
+  const PuzzleState large = filledPuzzle(22, 5);
+  ASSERT_TRUE(writePuzzle(path, WriteMode::Append, large).ok());  // creates the file
+  ASSERT_TRUE(writePuzzle(path, WriteMode::Truncate, small).ok());
+  ASSERT_TRUE(writePuzzle(path, WriteMode::Append, large).ok());
+  ASSERT_TRUE(writePuzzle(path, WriteMode::Append, small).ok());
+  EXPECT_EQ(countPuzzles(path), 3);
+  EXPECT_FALSE(writePuzzle(path, WriteMode::Append, PuzzleState{}).ok());  // no puzzle yet
+  EXPECT_EQ(withDefaultExtension(folder.file("set")), path);
+  EXPECT_EQ(withDefaultExtension("my.files/puz"), "my.files/puz");
+  state.Entries.at(3, 6) = "Q";
+  state.SelRow = 3;
+  state.UndoList.push_front("record");
+
+  const std::vector<std::pair<int, const PuzzleState*>> steps = {{1, &small}, {2, &large}, {3, &small}, {-1, &small}};
+  const std::vector<bool> rebuilt = {true, true, true, false};
+  for (std::size_t i = 0; i < steps.size(); ++i) {
+    const auto result = read(path, steps[i].first);
+    ASSERT_TRUE(result.loaded()) << result.message;
+    EXPECT_EQ(result.rebuilt, rebuilt[i]) << i;
+    EXPECT_EQ(state.PuzzleNumber, i < 3 ? steps[i].first : 3);
+    EXPECT_EQ(state.CollectionPath, path);
+    EXPECT_TRUE(state.Letters == steps[i].second->Letters) << i;
+    EXPECT_EQ(state.WordSlots, steps[i].second->WordSlots) << i;
+    EXPECT_EQ(state.MeaningNumbers, steps[i].second->MeaningNumbers) << i;
+  }
+  EXPECT_EQ(board.HexAt(9, 11), 0);  // the size-22 geometry is gone
+  EXPECT_EQ(state.Entries.at(3, 6), "Q");
+  EXPECT_EQ(state.SelRow, 0);
+  EXPECT_THAT(state.UndoList, IsEmpty());
+}
+
+TEST_F(CollectionFile, BlankLinesCountAndNumbersOutsideTheCollectionLoadNothing) {
+  const std::string path = folder.file("set.txt");
+  ASSERT_TRUE(
+      writeLines(path, {puzzleLine(filledPuzzle(7, 3)), "", puzzleLine(filledPuzzle(17, 4))}, WriteMode::Truncate));
+  EXPECT_EQ(countPuzzles(path), 3);
+  ASSERT_TRUE(read(path, 1).loaded());
+  const PuzzleState before = state;
+
+  EXPECT_EQ(read(path, 2).outcome, ReadOutcome::Malformed);  // a blank line is a puzzle of no size
+  EXPECT_EQ(read(path, 4).outcome, ReadOutcome::BeyondCount);
+  EXPECT_EQ(read(path, 0).outcome, ReadOutcome::BeyondCount);
+  state.PuzzleCount = 5;  // the file shrank since it was counted
+  EXPECT_EQ(readPuzzle(path, 5, board, state, {}).outcome, ReadOutcome::Unreadable);
+  expectSamePuzzle(state, before);
+
+  EXPECT_EQ(read(path, -1).number, 3);
+  EXPECT_EQ(state.PuzzleSize, 17);
+
+  ASSERT_TRUE(writeLines(folder.file("empty.txt"), {}, WriteMode::Truncate));
+  for (const std::string& empty : {folder.file("empty.txt"), folder.file("missing.txt")}) {
+    EXPECT_EQ(countPuzzles(empty), 0);
+    const auto none = read(empty, 1);
+    EXPECT_EQ(none.outcome, ReadOutcome::NoPuzzles);
+    EXPECT_EQ(none.message, empty + " does not appear to have any puzzles");
+  }
+}
+
+TEST_F(CollectionFile, MalformedLinesLeaveTheShownPuzzleUntouched) {
+  ASSERT_TRUE(loadPuzzleLine(puzzleLine(filledPuzzle(7, 6)), board, state, {}).loaded());
+  state.ClueTexts[1] = "kept";
+  const PuzzleState before = state;
+  std::string words14;
+  for (int i = 0; i < 14; ++i) words14 += "TEAR,1;";
+  const std::vector<std::string> lines = {"8;A;TEAR,1;",
+                                          "abc;A;",
+                                          "1e99;A;",
+                                          "10;" + std::string(100, 'A') + ";",
+                                          "22;A;TEAR;",
+                                          "7;A;TEAR,99999999999;",
+                                          "7;A;" + words14 + "SEAT,1;"};
+  for (const std::string& line : lines) {
+    EXPECT_EQ(loadPuzzleLine(line, board, state, {}).outcome, ReadOutcome::Malformed) << line;
+    expectSamePuzzle(state, before);
+    EXPECT_EQ(board.size(), 7);
+  }
+  EXPECT_TRUE(loadPuzzleLine("7;A;" + words14 + ";;", board, state, {}).loaded());  // empty extra fields are harmless
+}
+
+TEST_F(CollectionFile, CluesComeFromTheMeaningsAndTheWordListsSkipEmptySlots) {
+  ASSERT_TRUE(writeLines(folder.file("mean3456.txt"),
+                         {"SEAT:to sit", "TEAR:a drop", "TEAR:to rip", "TEAR:a spree", "TEARS:drops"},
+                         WriteMode::Truncate));
+  const std::string path = folder.file("set.txt");
+  ASSERT_TRUE(writeLines(path, {"7;%A;TEAR,3;SEAT,1;;TEARS,1;GONE,1;TEAR,4;"}, WriteMode::Truncate));
+  const auto result = read(path, 1);
+  ASSERT_TRUE(result.loaded());
+  EXPECT_TRUE(result.clues.ok());
+  EXPECT_EQ(state.Letters.at(1, 6), "A");
+  EXPECT_THAT(std::vector<std::string>(state.ClueTexts.begin() + 1, state.ClueTexts.begin() + 7),
+              ElementsAre("a spree", "to sit", "", "drops", "", ""));
+  const WordListLines lists = wordListLines(state);
+  EXPECT_THAT(lists.inside, ElementsAre(" WORDS INSIDE:", " 01. SEAT", " 02. TEARS", " 03. TEAR"));
+  EXPECT_THAT(lists.outside, ElementsAre(" WORDS OUTSIDE:", " 01. TEAR", " 03. GONE"));
+
+  Meanings none;
+  const auto missing = readPuzzle(path, 1, board, state, {&none, folder.file("nomeanings.txt"), {}});
+  EXPECT_TRUE(missing.loaded());
+  EXPECT_FALSE(missing.clues.ok());
+  EXPECT_EQ(state.ClueTexts[1], "");
+  EXPECT_EQ(state.WordSlots[1], "TEAR");
+}
+
+TEST_F(CollectionFile, ALongCollectionIsReadOnlyUpToThePuzzleAskedFor) {
+  const std::string path = folder.file("long.txt");
+  ASSERT_TRUE(writeLines(path, std::vector(100000, puzzleLine(filledPuzzle(22, 7))), WriteMode::Truncate));
+  const auto start = std::chrono::steady_clock::now();
+  ASSERT_TRUE(read(path, -1).loaded());
+  EXPECT_EQ(state.PuzzleNumber, 100000);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+}
+
+TEST(PuzzleLineFuzz, RandomLinesLoadSoundlyOrChangeNothing) {
+  std::mt19937 engine(20240611);
+  const std::string alphabet = "0123456789;;;,,..#%^&*ABZ -";
+  const std::vector<std::string> heads = {"", "7;", "10;", "17;", "22;", "7;%%"};
+  Board board;
+  PuzzleState state;
+  int loaded = 0;
+  for (int round = 0; round < 3000; ++round) {
+    std::string line = heads[engine() % heads.size()];
+    for (std::size_t n = engine() % 80; n > 0; --n) line += alphabet[engine() % alphabet.size()];
+    const PuzzleState before = state;
+    const auto result = loadPuzzleLine(line, board, state, {});
+    if (!result.loaded()) {
+      expectSamePuzzle(state, before);
+      continue;
+    }
+    ++loaded;
+    ASSERT_TRUE(Board::isValidSize(state.PuzzleSize)) << line;
+    for (int slot = state.WordCount + 1; slot <= PuzzleState::kMaxSlots; ++slot) ASSERT_EQ(state.WordSlots[slot], "");
+    // What was loaded writes a line that loads to the same puzzle.
+    PuzzleState again = state;
+    ASSERT_TRUE(loadPuzzleLine(puzzleLine(state), board, again, {}).loaded()) << line;
+    expectSamePuzzle(again, state);
+  }
+  EXPECT_GT(loaded, 100);
+}
+
+}  // namespace
+}  // namespace combwise

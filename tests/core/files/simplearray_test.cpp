@@ -1,0 +1,115 @@
+// The word list: upkeep, the searches, and index errors going to the log.
+#include "core/files/simplearray.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+#include "core/files/tempfolder.h"
+#include "core/files/textfile.h"
+
+namespace combwise {
+namespace {
+
+using ::testing::ElementsAre;
+
+clsSimpleArray listOf(std::initializer_list<const char*> words) {
+  clsSimpleArray list;
+  for (const char* word : words) list.AddItem(word);
+  return list;
+}
+
+TEST(WordListUpkeep, InsertionSortingAndRemovals) {
+  clsSimpleArray list;
+  EXPECT_EQ(list.ListCount(), 0);
+  EXPECT_EQ(list.NewIndex(), -1);
+  list.AddItem("TEAR");
+  EXPECT_EQ(list.ListCount(), 1);
+  EXPECT_EQ(list.NewIndex(), 0);
+  list.AddItem("SEAT");
+  list.setItemData(1, 11);
+  list.AddItem("EAST", 1);  // item data moves up with its item
+  EXPECT_THAT(list.items(), ElementsAre("TEAR", "EAST", "SEAT"));
+  EXPECT_EQ(list.Text(), "EAST");
+  EXPECT_EQ(list.ItemData(2), 11);
+
+  clsSimpleArray sorted;
+  sorted.setSorted(true);
+  for (const char* word : {"b", "a", "c", "B"}) sorted.AddItem(word);
+  EXPECT_THAT(sorted.items(), ElementsAre("B", "a", "b", "c"));  // binary order: capitals first
+
+  list = listOf({"Tea", "tea", "TEA", "eat"});
+  list.RemoveDuplicates();
+  EXPECT_THAT(list.items(), ElementsAre("Tea", "eat"));
+  list = listOf({"Tea", "eat", "TEA", "ate"});
+  list.RemoveItemsMatching("tEa");
+  list.setItemData(1, 7);
+  list.RemoveItemDataMatching(7);
+  EXPECT_THAT(list.items(), ElementsAre("eat"));
+  EXPECT_EQ(list.FindItem("EAT"), 0);
+  EXPECT_EQ(list.FindItem("tear"), -1);
+  EXPECT_EQ(list.NewIndex(), -1);
+}
+
+TEST(WordListSearch, ExactPrefixPatternSubstringAndLetterSearches) {
+  clsSimpleArray list = listOf({"EAST", "TEAR", "SEAT", "TEARS"});
+  for (int i = 0; i < 4; ++i) list.setItemData(i, 99);
+  EXPECT_EQ(list.FindString("?EA?"), 1);  // TEAR and SEAT: their indexes land in item data 0 and 1
+  EXPECT_EQ(list.ItemData(0) * 10000 + list.ItemData(1) * 100 + list.ItemData(2), 10299);
+  EXPECT_EQ(list.FindStringOnce("TEARS"), 3);
+  EXPECT_EQ(list.FindStringOnce("tear"), -1);
+  list.FindItem("SEAT");
+  EXPECT_EQ(list.FindStringLeftOne("TEA"), 1);
+  EXPECT_EQ(list.NewIndex(), -1);
+  EXPECT_EQ(list.FindStringOnceWild("*S"), 3);
+  EXPECT_EQ(list.FindStringOnceAny("EAT"), 2);
+  EXPECT_EQ(list.FindStringAll("AET", 3), 0);
+  EXPECT_EQ(list.FindStringAll("EET", 3), -1);  // one E in each word
+  EXPECT_EQ(list.FindStringAll("RSEE", 2), 3);  // only the first two letters count
+
+  for (const char* pattern : {"T?AR", "T*", "*AR", "T*R", "TEAR*", "[ST]EAR", "[!SB]EAR", "[R-U]EAR"})
+    EXPECT_TRUE(matchesWildcard("TEAR", pattern)) << pattern;
+  for (const char* pattern : {"TEA", "tear", "?", "[SB]EAR", "[!T]EAR", "[A-S]EAR", "#EAR", "T*S"})
+    EXPECT_FALSE(matchesWildcard("TEAR", pattern)) << pattern;
+  EXPECT_TRUE(matchesWildcard("A7", "A#") && matchesWildcard("", "*"));
+}
+
+TEST(WordListSearch, BinarySearchFindsAnyItemWithThePrefix) {
+  EXPECT_EQ(clsSimpleArray().FindWordInDict("TEA"), -1);
+  const clsSimpleArray words = listOf({"ALE", "BEE", "EAT", "SEA", "TEA", "TEAR", "ZOO"});
+  EXPECT_EQ(words.FindWordInDict("ALE"), 0);
+  EXPECT_EQ(words.FindWordInDict("ZOO"), 6);
+  EXPECT_EQ(words.FindWordInDict("TEARS"), -1);
+  EXPECT_EQ(words.FindWordInDict("CAT"), -1);
+  // Middles round halves to even: (0 + 3) / 2 gives 2, (0 + 5) / 2 gives 2.
+  EXPECT_EQ(listOf({"AA", "AB", "AC", "AD"}).FindWordInDict("A"), 2);
+  EXPECT_EQ(listOf({"AA", "AB", "AC", "AD", "AE", "AF"}).FindWordInDict("A"), 2);
+}
+
+TEST(WordListErrors, OutOfRangeAccessChangesNothingReadsEmptyAndIsLogged) {
+  TempFolder temp;
+  const ErrorLog log(temp.folder());
+  clsSimpleArray list(&log);
+  list.AddItem("TEAR");
+  list.setItemData(0, 4);
+  EXPECT_EQ(list.list(1), "");
+  EXPECT_EQ(list.ItemData(-1), 0);
+  list.setList(1, "X");
+  list.setItemData(5, 9);
+  list.RemoveItem(1);
+  list.AddItem("X", 2);
+  EXPECT_THAT(list.items(), ElementsAre("TEAR"));
+  EXPECT_EQ(list.ItemData(0), 4);
+
+  const auto lines = readLines(log.path());
+  ASSERT_TRUE(lines && lines->size() == 6);
+  const char* members[] = {"Get AddItem", "Get ItemData", "Let AddItem", "Let ItemData", "RemoveItem", "AddItem"};
+  for (int i = 0; i < 6; ++i) {
+    EXPECT_THAT((*lines)[i], ::testing::HasSubstr(std::string("\"-1\",\"") + clsSimpleArray::kIndexError +
+                                                  "\",\"clsSimpleArray\",\"" + members[i] + "\""));
+  }
+}
+
+}  // namespace
+}  // namespace combwise

@@ -1,0 +1,112 @@
+// Checks of the data files the build puts in the program folder: the game
+// relies on their format (CR LF, upper-case words, binary order for the
+// meanings search) and on every clue keeping its answer hidden.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+
+#include "core/files/dictionary.h"
+#include "data/tools/glossrules.h"
+#include "data/tools/wordconverter.h"
+
+namespace combwise {
+namespace {
+
+const std::string kBinDir = COMBWISE_BIN_DIR;
+
+// The file's lines split at CR LF; fails the test when a line ends otherwise.
+std::vector<std::string> crLfLines(const std::string& name) {
+  std::ifstream in(kBinDir + "/" + name, std::ios::binary);
+  EXPECT_TRUE(in) << name << " is missing";
+  const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  std::vector<std::string> lines;
+  std::size_t start = 0;
+  while (start < text.size()) {
+    const auto end = text.find('\n', start);
+    if (end == std::string::npos || end == start || text[end - 1] != '\r') {
+      ADD_FAILURE() << name << ": line " << lines.size() + 1 << " does not end in CR LF";
+      return lines;
+    }
+    lines.push_back(text.substr(start, end - 1 - start));
+    start = end + 1;
+  }
+  return lines;
+}
+
+// Read once for all tests; a format fault shows in the first test to ask.
+const std::vector<std::string>& dictionary() {
+  static const std::vector<std::string> lines = crLfLines("english3.txt");
+  return lines;
+}
+
+const std::vector<std::string>& meanings() {
+  static const std::vector<std::string> lines = crLfLines("mean3456.txt");
+  return lines;
+}
+
+TEST(GeneratedWords, MeaningsAreSortedPrintableAndHideTheirAnswers) {
+  EXPECT_TRUE(std::is_sorted(meanings().begin(), meanings().end()));
+  const std::set<std::string> words(dictionary().begin(), dictionary().end());
+  for (const std::string& line : meanings()) {
+    const auto colon = line.find(':');
+    ASSERT_NE(colon, std::string::npos) << line;
+    std::string answer = line.substr(0, colon);
+    EXPECT_TRUE(words.contains(answer)) << line;
+    const std::string clue = line.substr(colon + 1);
+    EXPECT_TRUE(!clue.empty() && clue.front() != ' ' && clue.back() != ' ' && clue.back() != ';' &&
+                std::all_of(clue.begin(), clue.end(), [](char c) { return c >= ' ' && c <= '~'; }))
+        << line;
+    std::transform(answer.begin(), answer.end(), answer.begin(), [](char c) { return static_cast<char>(c | 0x20); });
+    EXPECT_FALSE(wordconv::showsAnyForm(clue, {answer})) << line;
+  }
+}
+
+// Through the game's own reader and binary search.
+TEST(GeneratedWords, EveryWordIsPlainAndFindsItsCluesThroughTheGamesSearch) {
+  EXPECT_TRUE(dictionary().size() >= 6000 && dictionary().size() <= 15000) << dictionary().size();
+  Meanings reader;
+  ASSERT_TRUE(reader.read(kBinDir + "/mean3456.txt").ok());
+  ASSERT_EQ(reader.lineCount(), static_cast<int>(meanings().size()));
+  for (const std::string& word : dictionary()) {
+    EXPECT_TRUE(word.size() >= 3 && word.size() <= 6 &&
+                std::all_of(word.begin(), word.end(), [](char c) { return c >= 'A' && c <= 'Z'; }))
+        << "'" << word << "'";
+    const std::string key = word + ":";
+    const int first = reader.firstLine(key);
+    ASSERT_GE(first, 0) << word;
+    EXPECT_TRUE(first == 0 || !meanings()[first - 1].starts_with(key)) << word;
+    const int count = reader.countLines(key, first);
+    EXPECT_TRUE(count >= 1 && count <= wordconv::kDefaultMaxClues) << word << " has " << count;
+    EXPECT_FALSE(reader.clue(word, count).empty()) << word;
+  }
+}
+
+TEST(GeneratedFiles, WordNetLicenceTravelsWithTheData) {
+  const std::vector<std::string> lines = crLfLines("WordNet-LICENSE.txt");
+  EXPECT_THAT(lines, ::testing::Contains(::testing::HasSubstr("Princeton University")));
+}
+
+TEST(GeneratedFiles, ColourSchemesHaveAHeaderAndThirteenColours) {
+  const std::vector<std::string> lines = crLfLines("all.col");
+  const std::regex colour(R"((\d{1,3});(\d{1,3});(\d{1,3}))");
+  std::vector<std::string> names;
+  for (std::size_t i = 0; i < lines.size(); i += 14) {
+    ASSERT_NE(lines[i].find(".col"), std::string::npos) << "line " << i + 1;
+    ASSERT_LE(i + 14, lines.size()) << lines[i] << " is short of colours";
+    names.push_back(lines[i]);
+    for (std::size_t c = i + 1; c < i + 14; ++c) {
+      std::smatch fields;
+      ASSERT_TRUE(std::regex_match(lines[c], fields, colour)) << lines[i] << ": " << lines[c];
+      for (int f = 1; f <= 3; ++f) EXPECT_LE(std::stoi(fields[f]), 255) << lines[c];
+    }
+  }
+  EXPECT_THAT(names, ::testing::IsSupersetOf({"xp.col", "default.col"}));
+}
+
+}  // namespace
+}  // namespace combwise
