@@ -50,8 +50,10 @@ std::vector<std::string> honeycombText(const Board& board, const PuzzleState& st
     }
     lines.push_back(cells);
   }
-  // Trailing blanks are noise in a terminal.
+  // Trailing blanks, and the empty rows below the last hexagons, are noise
+  // in a terminal.
   for (auto& line : lines) line.erase(line.find_last_not_of(' ') + 1);
+  while (!lines.empty() && lines.back().empty()) lines.pop_back();
   return lines;
 }
 

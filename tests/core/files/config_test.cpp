@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <random>
 
-#include "core/files/tempfolder.h"
+#include "support/tempfolder.h"
 #include "core/files/textfile.h"
 
 namespace combwise {

@@ -8,7 +8,7 @@
 #include <regex>
 #include <stdexcept>
 
-#include "core/files/tempfolder.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {

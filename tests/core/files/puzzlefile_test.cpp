@@ -8,7 +8,7 @@
 #include <chrono>
 #include <random>
 
-#include "core/files/tempfolder.h"
+#include "support/tempfolder.h"
 #include "core/model/text.h"
 
 namespace combwise {

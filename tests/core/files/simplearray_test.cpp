@@ -6,7 +6,7 @@
 
 #include <initializer_list>
 
-#include "core/files/tempfolder.h"
+#include "support/tempfolder.h"
 #include "core/files/textfile.h"
 
 namespace combwise {

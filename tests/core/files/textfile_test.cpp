@@ -7,7 +7,7 @@
 
 #include <fstream>
 
-#include "core/files/tempfolder.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {

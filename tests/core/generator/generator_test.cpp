@@ -4,13 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <set>
 
 #include "core/generator/letters.h"
 #include "core/model/text.h"
 #include "support/gamedata.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {
@@ -108,19 +108,12 @@ TEST(Generator, FastFormMakesTheSamePuzzlesAsTheStraightforwardForm) {
 
 class SmallFiles : public ::testing::Test {
  protected:
-  void SetUp() override {
-    m_folder = std::filesystem::temp_directory_path() /
-               ("combwise-gen-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "-" +
-                ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    std::filesystem::create_directories(m_folder);
-  }
-  void TearDown() override { std::filesystem::remove_all(m_folder); }
   std::string write(const std::string& name, const std::string& text) {
-    const auto path = (m_folder / name).string();
+    const std::string path = m_temp.file(name);
     std::ofstream(path, std::ios::binary) << text;
     return path;
   }
-  std::filesystem::path m_folder;
+  TempFolder m_temp;
 };
 
 TEST_F(SmallFiles, APoolOfOneWordNeverYieldsACandidateSoNothingIsDrawn) {

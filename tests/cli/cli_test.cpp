@@ -1,0 +1,135 @@
+// The makers' command-line tool, run on small inputs with the game's data.
+#include "cli/cli.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+
+#include "core/files/textfile.h"
+#include "support/tempfolder.h"
+
+namespace combwise::cli {
+namespace {
+
+struct CliRun {
+  int status = 0;
+  std::string out;
+  std::string err;
+};
+
+CliRun cli(std::vector<std::string> args, const std::string& home = COMBWISE_BIN_DIR) {
+  args.insert(args.begin(), {"--home", home});
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = runCli(args, out, err);
+  return {status, out.str(), err.str()};
+}
+
+TEST(CliCreate, ASeedGivesTheSameFileWhateverTheJobsAndRunsAppend) {
+  TempFolder temp;
+  const std::string one = temp.file("one.txt");
+  const std::string two = temp.file("two.txt");
+  for (int round = 1; round <= 2; ++round) {
+    EXPECT_EQ(cli({"create", "--size", "10", "--count", "5", "--seed", "77", "--jobs", "1", "--output", one}).status, 0);
+    EXPECT_EQ(cli({"create", "--size=10", "--count=5", "--seed=77", "--jobs=2", "--output", two}).status, 0);
+  }
+  EXPECT_EQ(countLines(one), 10);
+  EXPECT_EQ(TempFolder::contentOf(one), TempFolder::contentOf(two));
+  // The second run makes the same five again: each puzzle depends on its seed and number only.
+  const auto lines = *readLines(one);
+  EXPECT_EQ(std::vector(lines.begin(), lines.begin() + 5), std::vector(lines.begin() + 5, lines.end()));
+  EXPECT_NE(lines[0], lines[1]);
+  EXPECT_EQ(cli({"check", one}).status, 0);
+}
+
+TEST(CliCreate, BadArgumentsAndUnreadableFilesAreRefusedClearly) {
+  TempFolder temp;
+  const std::string out = temp.file("x.txt");
+  const CliRun noOutput = cli({"create", "--size", "7"});
+  EXPECT_EQ(noOutput.status, 2);
+  EXPECT_NE(noOutput.err.find("--output is required"), std::string::npos);
+  EXPECT_EQ(cli({"create", "--size", "9", "--output", out}).status, 2);
+  EXPECT_EQ(cli({"create", "--size", "7", "--count", "0", "--output", out}).status, 2);
+  EXPECT_EQ(cli({"create", "--size", "7", "--colour", "red", "--output", out}).status, 2);
+  const CliRun noDictionary = cli({"create", "--size", "7", "--dictionary", temp.file("none.txt"), "--output", out});
+  EXPECT_EQ(noDictionary.status, 1);
+  EXPECT_NE(noDictionary.err.find("none.txt"), std::string::npos);
+  const CliRun refused = cli({"create", "--size", "22", "--dictionary", temp.file("ENGLISH2.TXT"), "--output", out});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_NE(refused.err.find("english1/2"), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(out));
+  EXPECT_EQ(cli({"frobnicate"}).status, 2);
+  EXPECT_EQ(cli({"show", "--help"}).status, 0);
+}
+
+TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListing) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt");
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "2", "--seed", "3", "--output", collection}).status, 0);
+
+  const CliRun shown = cli({"show", collection, "2"});
+  EXPECT_EQ(shown.status, 0);
+  EXPECT_NE(shown.out.find("p# 2 of 2"), std::string::npos);
+  EXPECT_NE(shown.out.find("+---+04-+---+"), std::string::npos);  // the centre hexagon's number on its edge
+  EXPECT_NE(shown.out.find(" _ "), std::string::npos);
+  EXPECT_NE(shown.out.find("  07. "), std::string::npos);
+  const CliRun solved = cli({"show", collection, "-1", "--solution"});
+  EXPECT_EQ(solved.out.find(" _ "), std::string::npos);
+  EXPECT_EQ(cli({"show", collection, "3"}).status, 1);
+  EXPECT_EQ(cli({"show", collection, "zero"}).status, 2);
+
+  const std::string listing = temp.file("clues.txt");
+  ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}).status, 0);
+  const auto lines = *readLines(listing);
+  ASSERT_EQ(lines.size(), 20u);  // two banner lines, a blank, 1 + 7 inside, a blank, 1 + 7 outside
+  EXPECT_EQ(lines[1], " Puz# 1: " + collection);
+  EXPECT_EQ(lines[3], " INSIDE CLUES:");
+  EXPECT_EQ(lines[4].substr(0, 5), " 01. ");
+  EXPECT_EQ(lines[12], " OUTSIDE CLUES:");
+  EXPECT_EQ(lines[19].substr(0, 5), " 07. ");
+}
+
+TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt");
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "1", "--seed", "5", "--output", collection}).status, 0);
+  std::string good = (*readLines(collection))[0];
+  std::string swapped = good;
+  const auto letter = swapped.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+  swapped[letter] = swapped[letter] == 'Q' ? 'Z' : 'Q';  // a letter no longer matching its words
+  std::string unknownWord = good;
+  unknownWord.replace(unknownWord.rfind(';', unknownWord.size() - 2) + 1, 3, "QQQ");
+  ASSERT_TRUE(writeLines(collection, {good, swapped, "", "7;abc;NOCOMMA;", unknownWord}, WriteMode::Truncate));
+
+  const CliRun checked = cli({"check", collection});
+  EXPECT_EQ(checked.status, 1);
+  EXPECT_EQ(checked.out.find(collection + ":1:"), std::string::npos);
+  for (const char* line : {":2: hexagon", ":3: blank line", ":4: does not load", ":5: slot 14: QQQ"})
+    EXPECT_NE(checked.out.find(collection + line), std::string::npos) << line;
+  EXPECT_NE(checked.out.find("5 puzzles checked, 4 have problems"), std::string::npos);
+}
+
+TEST(CliCollections, RandomizeWritesBesideAndBatchAppendsToTheProgramFoldersFile) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt");
+  ASSERT_TRUE(writeLines(collection, {"7;A;", "7;a;", "8;B;", "8;B;", "9;C;"}, WriteMode::Truncate));
+  const CliRun randomized = cli({"randomize", collection, "--seed", "1"});
+  EXPECT_EQ(randomized.status, 0);
+  EXPECT_EQ(countLines(temp.file("set-noduprandom.txt")), 3);
+
+  // The batch reads the program folder's own dictionary and meanings.
+  for (const char* name : {"english3.txt", "mean3456.txt"})
+    std::filesystem::copy_file(std::string(COMBWISE_BIN_DIR) + "/" + name, temp.file(name));
+  for (int round = 1; round <= 2; ++round) {
+    const CliRun batch = cli({"batch", "--count", "3", "--seed", "9"}, temp.folder());
+    EXPECT_EQ(batch.status, 0);
+    EXPECT_NE(batch.out.find("done"), std::string::npos);
+  }
+  const std::string made = temp.file("puz-18sepsize17D.txt");
+  EXPECT_EQ(countLines(made), 6);
+  EXPECT_EQ((*readLines(made))[0].substr(0, 3), "17;");
+}
+
+}  // namespace
+}  // namespace combwise::cli
