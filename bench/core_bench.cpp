@@ -33,4 +33,5 @@ BENCHMARK(BM_FindWordInDict);
 
 }  // namespace
 
+
 BENCHMARK_MAIN();

@@ -1,46 +1,66 @@
 // Plain-text files: lines accepted with CR LF or LF, written with CR LF.
 #include "core/files/textfile.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <system_error>
 
 namespace combwise {
 
+namespace {
+constexpr std::size_t kChunk = 1 << 16;
+}  // namespace
+
 LineReader::LineReader(const std::string& path) : m_file(std::fopen(path.c_str(), "rb")) {}
 
+bool LineReader::fill() {
+  if (!m_file || m_error) return false;
+  m_buffer.resize(kChunk);
+  const std::size_t got = std::fread(m_buffer.data(), 1, m_buffer.size(), m_file.get());
+  if (got == 0 && std::ferror(m_file.get())) m_error = true;
+  m_begin = 0;
+  m_end = got;
+  return got > 0;
+}
+
 std::optional<std::string> LineReader::next() {
-  if (!m_file) return std::nullopt;
   std::string line;
   bool any = false;
-  char buffer[4096];
-  while (std::fgets(buffer, sizeof buffer, m_file.get())) {
+  for (;;) {
+    if (m_begin == m_end && !fill()) break;
     any = true;
-    line += buffer;
-    if (!line.empty() && line.back() == '\n') {
-      line.pop_back();
+    const char* start = m_buffer.data() + m_begin;
+    const auto* newline = static_cast<const char*>(std::memchr(start, '\n', m_end - m_begin));
+    if (newline) {
+      line.append(start, newline);
+      m_begin += static_cast<std::size_t>(newline - start) + 1;
       if (!line.empty() && line.back() == '\r') line.pop_back();
       return line;
     }
+    line.append(start, m_end - m_begin);
+    m_begin = m_end;
   }
-  if (!any) return std::nullopt;
+  if (!any || m_error) return std::nullopt;
   if (!line.empty() && line.back() == '\r') line.pop_back();
   return line;
 }
 
 bool LineReader::skip() {
-  if (!m_file) return false;
   bool any = false;
-  char buffer[4096];
-  while (std::fgets(buffer, sizeof buffer, m_file.get())) {
+  for (;;) {
+    if (m_begin == m_end && !fill()) return any && !m_error;
     any = true;
-    const auto length = std::char_traits<char>::length(buffer);
-    if (length > 0 && buffer[length - 1] == '\n') return true;
+    const char* start = m_buffer.data() + m_begin;
+    const auto* newline = static_cast<const char*>(std::memchr(start, '\n', m_end - m_begin));
+    if (newline) {
+      m_begin += static_cast<std::size_t>(newline - start) + 1;
+      return true;
+    }
+    m_begin = m_end;
   }
-  return any;
 }
-
-bool LineReader::failed() const { return !m_file || std::ferror(m_file.get()) != 0; }
 
 std::optional<std::vector<std::string>> readLines(const std::string& path) {
   LineReader reader(path);
@@ -55,23 +75,17 @@ long long countLines(const std::string& path) {
   std::FILE* file = std::fopen(path.c_str(), "rb");
   if (!file) return 0;
   long long count = 0;
-  bool pending = false;  // characters after the last line end
-  char buffer[1 << 16];
+  char last = '\n';  // an empty file has no unfinished last line
+  std::vector<char> buffer(kChunk);
   std::size_t got;
-  while ((got = std::fread(buffer, 1, sizeof buffer, file)) > 0) {
-    for (std::size_t i = 0; i < got; ++i) {
-      if (buffer[i] == '\n') {
-        ++count;
-        pending = false;
-      } else {
-        pending = true;
-      }
-    }
+  while ((got = std::fread(buffer.data(), 1, buffer.size(), file)) > 0) {
+    count += std::count(buffer.data(), buffer.data() + got, '\n');
+    last = buffer[got - 1];
   }
   const bool error = std::ferror(file) != 0;
   std::fclose(file);
   if (error) return 0;
-  return count + (pending ? 1 : 0);
+  return count + (last != '\n' ? 1 : 0);  // a last line without its end still counts
 }
 
 bool writeLines(const std::string& path, const std::vector<std::string>& lines, WriteMode mode) {

@@ -22,13 +22,20 @@ class LineReader {
   // Skips one line; false at the end of the file.
   bool skip();
   // True when reading stopped on an error rather than at the end.
-  bool failed() const;
+  bool failed() const { return m_error || !m_file; }
 
  private:
+  // Refills the buffer; false at the end of the file or on an error.
+  bool fill();
+
   struct Closer {
     void operator()(std::FILE* f) const { std::fclose(f); }
   };
   std::unique_ptr<std::FILE, Closer> m_file;
+  std::vector<char> m_buffer;
+  std::size_t m_begin = 0;  // unread part of the buffer: [m_begin, m_end)
+  std::size_t m_end = 0;
+  bool m_error = false;
 };
 
 // All lines of a file; nullopt when it cannot be opened or read.
