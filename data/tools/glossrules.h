@@ -17,6 +17,10 @@ std::string cleanGloss(std::string_view gloss);
 // derogatory or a slur ("(ethnic slur) offensive term for ...").
 bool hasOffensiveMarker(std::string_view text);
 
+// True when the text is about sex or sexual anatomy: a family game does
+// not ask for such answers, and WordNet marks few of them as offensive.
+bool isAdultGloss(std::string_view text);
+
 // The word and the forms of it a reader would spot at once: plurals and
 // third persons (-s, -es, -ies), past forms (-ed, -d, -ied), -ing with or
 // without the final e, the doubled final consonant, comparatives, and the

@@ -36,9 +36,11 @@ bool isBannedDomain(const Synset& domain) {
   });
 }
 
-// Four-letter words that WordNet leaves unmarked in some of their senses,
-// which no clue makes fit for a puzzle.
-constexpr std::array<std::string_view, 6> kUnprintable = {"crap", "cunt", "fuck", "piss", "shit", "twat"};
+// Words that WordNet leaves unmarked in some of their crude or slurring
+// senses, which no clue makes fit for a family puzzle.
+constexpr std::array<std::string_view, 17> kUnprintable = {
+    "bugger", "clit", "crap", "cunt", "dyke",  "fag",   "faggot", "fuck", "gook",
+    "homo",   "piss", "porn", "retard", "shit", "slut", "twat",   "whore"};
 
 }  // namespace
 
@@ -116,7 +118,7 @@ std::string clueFor(std::string_view word, const Synset& synset, const WordNetDa
   }
 
   std::string clue = cleanGloss(synset.gloss);
-  if (clue.empty() || hasOffensiveMarker(clue) || showsAnyForm(clue, answerForms)) return {};
+  if (clue.empty() || hasOffensiveMarker(clue) || isAdultGloss(clue) || showsAnyForm(clue, answerForms)) return {};
   return clue;
 }
 

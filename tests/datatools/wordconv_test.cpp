@@ -38,6 +38,13 @@ TEST(OffensiveMarker, CatchesLabelledTermsButNotOrdinaryUse) {
   }
 }
 
+TEST(AdultGloss, CatchesSexualSensesAsWholeWordsOnly) {
+  EXPECT_TRUE(isAdultGloss("have sexual intercourse with"));
+  EXPECT_TRUE(isAdultGloss("the male organ of copulation"));
+  EXPECT_FALSE(isAdultGloss("a person who lives in Essex"));
+  EXPECT_FALSE(isAdultGloss("a canal for boats"));
+}
+
 TEST(AnswerForms, HideTheWordAndItsObviousForms) {
   using Case = std::pair<const char*, const char*>;
   // The word may itself be the inflected form ("news", "stopped").

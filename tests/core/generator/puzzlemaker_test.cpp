@@ -1,0 +1,73 @@
+// The create-puzzle flow: a new puzzle always comes back through the
+// temporary collection file, and the large-puzzle refusal changes nothing.
+#include "core/generator/puzzlemaker.h"
+
+#include <gtest/gtest.h>
+
+#include "core/files/textfile.h"
+#include "support/gamedata.h"
+#include "support/tempfolder.h"
+
+namespace combwise {
+namespace {
+
+using testing::gameDataPath;
+
+TEST(PuzzleMaker, CreatesThroughTheTemporaryFileReadingTheWordsOnFirstNeed) {
+  TempFolder temp;
+  Board board;
+  PuzzleState state;
+  Dictionary dictionary;
+  Meanings meanings;
+  PuzzleMaker maker(board, state, dictionary, meanings);
+  state.Entries.at(2, 5) = "Q";
+  std::vector<std::string> statuses;
+  GeneratorHooks hooks;
+  hooks.status = [&statuses](const std::string& text) { statuses.push_back(text); };
+  RandomSource random = RandomSource::seeded(4);
+  const std::string output = temp.file("temp.txt");
+
+  for (int size : {7, 10}) {
+    const CreateResult made =
+        maker.create(size, gameDataPath("english3.txt"), gameDataPath("mean3456.txt"), random, hooks, output);
+    ASSERT_TRUE(made.created()) << made.message;
+    EXPECT_EQ(countLines(output), 1);  // written anew, never appended
+    EXPECT_EQ(state.PuzzleSize, size);
+    EXPECT_EQ(board.size(), size);
+    EXPECT_EQ(state.CollectionPath, output);
+    EXPECT_EQ(state.PuzzleNumber, 1);
+    EXPECT_EQ(state.PuzzleCount, 1);
+    EXPECT_TRUE(invariantBreaches(board, state).empty());
+    EXPECT_FALSE(state.ClueTexts[1].empty());
+  }
+  EXPECT_EQ(state.Entries.at(2, 5), "Q");
+  EXPECT_EQ(statuses.front(), "Creating a puzzle ...");
+  EXPECT_EQ(std::count(statuses.begin(), statuses.end(), "Reading Dictionary ..."), 1);
+  EXPECT_EQ(statuses.back(), "Puzzle created ...");
+}
+
+TEST(PuzzleMaker, RefusesSize22WithTheEnglish1And2DictionariesOnly) {
+  EXPECT_TRUE(PuzzleMaker::refuses("/words/English2.txt", 22));
+  EXPECT_TRUE(PuzzleMaker::refuses("/ENGLISH1/any.dic", 22));
+  EXPECT_FALSE(PuzzleMaker::refuses("/words/english2.txt", 17));
+  EXPECT_FALSE(PuzzleMaker::refuses("/words/english3.txt", 22));
+
+  Board board;
+  PuzzleState state;
+  Dictionary dictionary;
+  Meanings meanings;
+  PuzzleMaker maker(board, state, dictionary, meanings);
+  RandomSource random = RandomSource::seeded(1);
+  const CreateResult refused = maker.create(22, "english2.txt", gameDataPath("mean3456.txt"), random);
+  EXPECT_EQ(refused.outcome, CreateOutcome::Refused);
+  EXPECT_EQ(refused.message, "Creating a large puzzle with english1/2 dictionaries will take long time");
+  EXPECT_EQ(state.PuzzleSize, -1);
+  EXPECT_EQ(random.drawCount(), 0u);
+
+  const CreateResult missing = maker.create(7, "/nonexistent/words.txt", gameDataPath("mean3456.txt"), random);
+  EXPECT_EQ(missing.outcome, CreateOutcome::NoDictionary);
+  EXPECT_NE(missing.message.find("/nonexistent/words.txt"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace combwise
