@@ -33,5 +33,4 @@ BENCHMARK(BM_FindWordInDict);
 
 }  // namespace
 
-
 BENCHMARK_MAIN();

@@ -45,8 +45,13 @@ void BM_GeneratePuzzle(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_GeneratePuzzle)
-    ->Arg(7)->Arg(10)->Arg(17)->Arg(22)
-    ->Iterations(1)->Repetitions(300)->ReportAggregatesOnly(true)
+    ->Arg(7)
+    ->Arg(10)
+    ->Arg(17)
+    ->Arg(22)
+    ->Iterations(1)
+    ->Repetitions(300)
+    ->ReportAggregatesOnly(true)
     ->Unit(benchmark::kMillisecond);
 
 void BM_LoadDictionaryAndMeanings(benchmark::State& state) {

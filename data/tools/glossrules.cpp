@@ -115,9 +115,9 @@ bool hasOffensiveMarker(std::string_view text) {
 
 bool isAdultGloss(std::string_view text) {
   constexpr std::array<std::string_view, 19> kAdultWords = {
-      "sex",         "sexual",       "sexually",   "intercourse", "copulation", "copulate",     "masturbation",
-      "masturbate",  "penis",        "genital",    "genitals",    "orgasm",     "erection",     "prostitute",
-      "prostitutes", "pornography",  "pornographic", "anal",     "erotic"};
+      "sex",         "sexual",      "sexually",     "intercourse", "copulation", "copulate", "masturbation",
+      "masturbate",  "penis",       "genital",      "genitals",    "orgasm",     "erection", "prostitute",
+      "prostitutes", "pornography", "pornographic", "anal",        "erotic"};
   for (const std::string& word : lowerWords(text)) {
     if (std::find(kAdultWords.begin(), kAdultWords.end(), word) != kAdultWords.end()) return true;
   }

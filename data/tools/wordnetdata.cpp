@@ -66,10 +66,14 @@ void forEachRecord(std::string_view text, Visit visit) {
 
 std::string_view fileSuffix(PartOfSpeech part) {
   switch (part) {
-    case PartOfSpeech::Noun: return "noun";
-    case PartOfSpeech::Verb: return "verb";
-    case PartOfSpeech::Adjective: return "adj";
-    case PartOfSpeech::Adverb: return "adv";
+    case PartOfSpeech::Noun:
+      return "noun";
+    case PartOfSpeech::Verb:
+      return "verb";
+    case PartOfSpeech::Adjective:
+      return "adj";
+    case PartOfSpeech::Adverb:
+      return "adv";
   }
   return {};
 }

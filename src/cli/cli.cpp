@@ -53,8 +53,8 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
       return 0;
     }
     if (arg == "--version" || arg == "-V") {
-      out << "combwise-cli " << COMBWISE_VERSION_MAJOR << "." << COMBWISE_VERSION_MINOR << "."
-          << COMBWISE_VERSION_PATCH << "\n";
+      out << "combwise-cli " << COMBWISE_VERSION_MAJOR << "." << COMBWISE_VERSION_MINOR << "." << COMBWISE_VERSION_PATCH
+          << "\n";
       return 0;
     }
     if (arg == "--home") {

@@ -36,7 +36,8 @@ void wordProblems(const PuzzleState& state, const std::unordered_set<std::string
   for (int slot = 1; slot <= state.WordCount; ++slot) {
     const std::string& word = state.WordSlots[slot];
     if (!words.count(word)) {
-      problems.push_back("slot " + NumberText(slot) + ": " + (word.empty() ? "no word" : word + " is not in the dictionary"));
+      problems.push_back("slot " + NumberText(slot) + ": " +
+                         (word.empty() ? "no word" : word + " is not in the dictionary"));
       continue;
     }
     if (!meanings.loaded()) continue;

@@ -1,8 +1,8 @@
 // The commands that make puzzles: create and batch.
 #include <algorithm>
 #include <chrono>
-#include <limits>
 #include <cstdio>
+#include <limits>
 #include <ostream>
 
 #include "cli/args.h"
@@ -41,7 +41,8 @@ struct LoadedWords {
 };
 
 // Reads the dictionary and meanings, saying what failed.
-bool loadWords(Context& context, const std::string& dictionaryPath, const std::string& meaningsPath, LoadedWords& words) {
+bool loadWords(Context& context, const std::string& dictionaryPath, const std::string& meaningsPath,
+               LoadedWords& words) {
   if (Status read = readDictionary(dictionaryPath, words.dictionary); !read.ok()) {
     context.err << "combwise-cli: " << read.error << "\n";
     return false;
@@ -54,11 +55,12 @@ bool loadWords(Context& context, const std::string& dictionaryPath, const std::s
 }
 
 // Appends the puzzles, with a progress bar, and reports the time taken.
-int appendPuzzles(Context& context, const std::string& output, const LoadedWords& words, const LineRunOptions& options) {
+int appendPuzzles(Context& context, const std::string& output, const LoadedWords& words,
+                  const LineRunOptions& options) {
   ProgressBar bar(context.err, options.count, context.progressOnTerminal);
   const auto start = std::chrono::steady_clock::now();
-  const Status status = appendPuzzleLines(output, words.dictionary, words.meanings, options,
-                                          [&bar](int done) { bar.update(done); });
+  const Status status =
+      appendPuzzleLines(output, words.dictionary, words.meanings, options, [&bar](int done) { bar.update(done); });
   bar.finish();
   if (!status.ok()) {
     context.err << "combwise-cli: " << status.error << "\n";
@@ -74,14 +76,16 @@ int appendPuzzles(Context& context, const std::string& output, const LoadedWords
 
 bool readRunOptions(ParsedArgs& parsed, LineRunOptions& options) {
   if (auto jobs = parsed.number("--jobs", 1, 256)) options.jobs = static_cast<int>(*jobs);
-  if (auto seed = parsed.number("--seed", 0, std::numeric_limits<long long>::max())) options.seed = static_cast<std::uint64_t>(*seed);
+  if (auto seed = parsed.number("--seed", 0, std::numeric_limits<long long>::max()))
+    options.seed = static_cast<std::uint64_t>(*seed);
   return parsed.error.empty();
 }
 
 }  // namespace
 
 int runCreate(Context& context, const Arguments& args) {
-  ParsedArgs parsed = parseArgs(args, {"--size", "--count", "--jobs", "--seed", "--dictionary", "--meanings", "--output"}, {"--help"});
+  ParsedArgs parsed =
+      parseArgs(args, {"--size", "--count", "--jobs", "--seed", "--dictionary", "--meanings", "--output"}, {"--help"});
   if (parsed.has("--help")) {
     context.out << kCreateHelp;
     return 0;
@@ -91,7 +95,8 @@ int runCreate(Context& context, const Arguments& args) {
   if (const auto count = parsed.number("--count", 1, 100000000)) options.count = static_cast<int>(*count);
   readRunOptions(parsed, options);
   const auto output = parsed.value("--output");
-  if (parsed.error.empty() && !parsed.positional.empty()) parsed.error = "unexpected argument '" + parsed.positional.front() + "'";
+  if (parsed.error.empty() && !parsed.positional.empty())
+    parsed.error = "unexpected argument '" + parsed.positional.front() + "'";
   if (parsed.error.empty() && !size) parsed.error = "--size is required";
   if (parsed.error.empty() && !Board::isValidSize(static_cast<int>(*size)))
     parsed.error = "--size must be 7, 10, 17 or 22, not " + NumberText(*size);
@@ -122,7 +127,8 @@ int runBatch(Context& context, const Arguments& args) {
   options.count = kBatchCount;
   if (const auto count = parsed.number("--count", 1, 100000000)) options.count = static_cast<int>(*count);
   readRunOptions(parsed, options);
-  if (parsed.error.empty() && !parsed.positional.empty()) parsed.error = "unexpected argument '" + parsed.positional.front() + "'";
+  if (parsed.error.empty() && !parsed.positional.empty())
+    parsed.error = "unexpected argument '" + parsed.positional.front() + "'";
   if (!parsed.error.empty()) {
     context.err << "combwise-cli batch: " << parsed.error << "\n\n" << kBatchHelp;
     return 2;

@@ -21,8 +21,10 @@ void ProgressBar::update(long long done) {
   const long long left = rate > 0 ? static_cast<long long>(static_cast<double>(m_total - done) / rate + 0.5) : 0;
   const int filled = static_cast<int>(kWidth * done / m_total);
   char line[160];
-  std::snprintf(line, sizeof line, "\r[%s%s] %lld/%lld  %.1f/s  %02lld:%02lld left ", std::string(static_cast<std::size_t>(filled), '#').c_str(),
-                std::string(static_cast<std::size_t>(kWidth - filled), ' ').c_str(), done, m_total, rate, left / 60, left % 60);
+  std::snprintf(line, sizeof line, "\r[%s%s] %lld/%lld  %.1f/s  %02lld:%02lld left ",
+                std::string(static_cast<std::size_t>(filled), '#').c_str(),
+                std::string(static_cast<std::size_t>(kWidth - filled), ' ').c_str(), done, m_total, rate, left / 60,
+                left % 60);
   m_out << line << std::flush;
 }
 

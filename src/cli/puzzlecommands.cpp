@@ -40,7 +40,8 @@ bool loadPuzzle(Context& context, const std::string& command, const std::string&
     context.err << "combwise-cli " << command << ": " << path << ": " << read.message << "\n";
     return false;
   }
-  if (!read.clues.ok()) context.err << "combwise-cli " << command << ": " << read.clues.error << " (clues left empty)\n";
+  if (!read.clues.ok())
+    context.err << "combwise-cli " << command << ": " << read.clues.error << " (clues left empty)\n";
   return true;
 }
 
@@ -76,9 +77,10 @@ int runShow(Context& context, const Arguments& args) {
   if (!loadPuzzle(context, "show", path, *n, puzzle)) return 1;
 
   const PuzzleState& state = puzzle.state;
-  context.out << fileNameOf(path) << "  " << positionText(state.PuzzleNumber, state.PuzzleCount) << "  (" << state.PuzzleSize
-              << " hexagons)\n\n";
-  for (const auto& line : honeycombText(puzzle.board, state, parsed.has("--solution"))) context.out << "  " << line << "\n";
+  context.out << fileNameOf(path) << "  " << positionText(state.PuzzleNumber, state.PuzzleCount) << "  ("
+              << state.PuzzleSize << " hexagons)\n\n";
+  for (const auto& line : honeycombText(puzzle.board, state, parsed.has("--solution")))
+    context.out << "  " << line << "\n";
   const bool solution = parsed.has("--solution");
   const auto clues = [&](const char* heading, int first) {
     context.out << "\n" << heading << "\n";
@@ -101,7 +103,8 @@ int runClues(Context& context, const Arguments& args) {
   }
   const auto n = puzzleNumber(parsed, 1, 0);
   const auto output = parsed.value("--output");
-  if (parsed.error.empty() && parsed.positional.size() != 2) parsed.error = "give a collection FILE and a puzzle number N";
+  if (parsed.error.empty() && parsed.positional.size() != 2)
+    parsed.error = "give a collection FILE and a puzzle number N";
   if (parsed.error.empty() && (!output || output->empty())) parsed.error = "--output is required";
   if (!parsed.error.empty()) {
     context.err << "combwise-cli clues: " << parsed.error << "\n\n" << kCluesHelp;

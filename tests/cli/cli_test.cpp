@@ -31,7 +31,8 @@ TEST(CliCreate, ASeedGivesTheSameFileWhateverTheJobsAndRunsAppend) {
   const std::string one = temp.file("one.txt");
   const std::string two = temp.file("two.txt");
   for (int round = 1; round <= 2; ++round) {
-    EXPECT_EQ(cli({"create", "--size", "10", "--count", "5", "--seed", "77", "--jobs", "1", "--output", one}).status, 0);
+    EXPECT_EQ(cli({"create", "--size", "10", "--count", "5", "--seed", "77", "--jobs", "1", "--output", one}).status,
+              0);
     EXPECT_EQ(cli({"create", "--size=10", "--count=5", "--seed=77", "--jobs=2", "--output", two}).status, 0);
   }
   EXPECT_EQ(countLines(one), 10);

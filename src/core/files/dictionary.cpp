@@ -11,11 +11,16 @@ Dictionary::Dictionary(const ErrorLog* log) : Words3(log), Words4(log), Words5(l
 
 clsSimpleArray* Dictionary::pool(int length) {
   switch (length) {
-    case 3: return &Words3;
-    case 4: return &Words4;
-    case 5: return &Words5;
-    case 6: return &Words6;
-    default: return nullptr;
+    case 3:
+      return &Words3;
+    case 4:
+      return &Words4;
+    case 5:
+      return &Words5;
+    case 6:
+      return &Words6;
+    default:
+      return nullptr;
   }
 }
 
@@ -31,9 +36,8 @@ void Dictionary::clear() {
 
 std::string sortedLetters(std::string_view word) {
   std::string letters(word);
-  std::sort(letters.begin(), letters.end(), [](char a, char b) {
-    return static_cast<unsigned char>(a) < static_cast<unsigned char>(b);
-  });
+  std::sort(letters.begin(), letters.end(),
+            [](char a, char b) { return static_cast<unsigned char>(a) < static_cast<unsigned char>(b); });
   return letters;
 }
 
@@ -55,7 +59,8 @@ Status readDictionary(const std::string& path, Dictionary& dictionary, const Pum
   }
   // Inserting one by one into the sorted list gives the same order as a
   // stable sort of the keys in file order.
-  std::stable_sort(keys.begin(), keys.end(), [](const std::string& a, const std::string& b) { return SortedKeyList::less(a, b); });
+  std::stable_sort(keys.begin(), keys.end(),
+                   [](const std::string& a, const std::string& b) { return SortedKeyList::less(a, b); });
   dictionary.SixLetterKeys.reserve(keys.size());
   for (auto& key : keys) dictionary.SixLetterKeys.insert(std::move(key));
   dictionary.path = path;

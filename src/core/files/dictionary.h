@@ -28,7 +28,9 @@ struct Dictionary {
   // The pool of words of `length` letters (3..6); nullptr for another length.
   clsSimpleArray* pool(int length);
   const clsSimpleArray* pool(int length) const;
-  bool empty() const { return Words3.ListCount() == 0 && Words4.ListCount() == 0 && Words5.ListCount() == 0 && Words6.ListCount() == 0; }
+  bool empty() const {
+    return Words3.ListCount() == 0 && Words4.ListCount() == 0 && Words5.ListCount() == 0 && Words6.ListCount() == 0;
+  }
   void clear();
 };
 

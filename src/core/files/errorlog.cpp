@@ -56,8 +56,8 @@ std::string ErrorLog::message(std::string_view number, std::string_view descript
 }
 
 std::string ErrorLog::versionTitle() const {
-  return m_title + " v" + std::to_string(COMBWISE_VERSION_MAJOR) + "." + std::to_string(COMBWISE_VERSION_MINOR) +
-         "." + std::to_string(COMBWISE_VERSION_PATCH);
+  return m_title + " v" + std::to_string(COMBWISE_VERSION_MAJOR) + "." + std::to_string(COMBWISE_VERSION_MINOR) + "." +
+         std::to_string(COMBWISE_VERSION_PATCH);
 }
 
 std::string ErrorLog::currentStamp() {
@@ -77,8 +77,8 @@ std::string ErrorLog::record(std::string_view number, std::string_view descripti
          "," + quoted(machineName());
 }
 
-void ErrorLog::LogError(bool show, std::string_view number, std::string_view description,
-                        std::string_view moduleName, std::string_view functionName) const noexcept {
+void ErrorLog::LogError(bool show, std::string_view number, std::string_view description, std::string_view moduleName,
+                        std::string_view functionName) const noexcept {
   try {
     if (show && m_show) m_show(m_title + " - ERROR", message(number, description, moduleName, functionName));
   } catch (...) {

@@ -201,7 +201,7 @@ int clsSimpleArray::FindWordInDict(std::string_view key) const {
   int high = ListCount() - 1;
   while (low <= high) {
     const int sum = low + high;
-    int middle = sum / 2;  // sum >= 0, so this is the lower middle
+    int middle = sum / 2;                           // sum >= 0, so this is the lower middle
     if (sum % 2 != 0 && middle % 2 != 0) ++middle;  // a half rounds to the even neighbour
     const std::string_view head = std::string_view(m_items[middle]).substr(0, key.size());
     const int order = head.compare(key);

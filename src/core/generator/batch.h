@@ -22,8 +22,8 @@ inline constexpr int kBatchCount = 2000;
 struct LineRunOptions {
   int size = kBatchSize;
   int count = 1;
-  int jobs = 0;                        // worker threads; 0 for one per core
-  std::optional<std::uint64_t> seed;   // reproducible streams; else the clock
+  int jobs = 0;                       // worker threads; 0 for one per core
+  std::optional<std::uint64_t> seed;  // reproducible streams; else the clock
 };
 
 // Receives puzzle i (from 1) and its collection line, in order, on the

@@ -181,7 +181,8 @@ bool PuzzleGenerator::verifyAfterPlacing(const Work& work, int placed, int& fail
     for (int j = 1; j < n; ++j) {
       const char c = letters[j];
       int k = j;
-      for (; k > 0 && static_cast<unsigned char>(letters[k - 1]) > static_cast<unsigned char>(c); --k) letters[k] = letters[k - 1];
+      for (; k > 0 && static_cast<unsigned char>(letters[k - 1]) > static_cast<unsigned char>(c); --k)
+        letters[k] = letters[k - 1];
       letters[k] = c;
     }
     const std::string_view key(letters, static_cast<std::size_t>(n));

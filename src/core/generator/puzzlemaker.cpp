@@ -59,12 +59,14 @@ CreateResult PuzzleMaker::create(int size, const std::string& dictionaryPath, co
   if (!engine.canGenerate())
     return {CreateOutcome::CannotGenerate,
             "The dictionary " + dictionaryPath + " needs at least two words of each length from 3 to 6 letters"};
-  if (!engine.generate(m_board, m_state, random, hooks)) return {CreateOutcome::CannotGenerate, "Puzzle creation stopped"};
+  if (!engine.generate(m_board, m_state, random, hooks))
+    return {CreateOutcome::CannotGenerate, "Puzzle creation stopped"};
 
   if (Status written = writePuzzle(outputPath, WriteMode::Truncate, m_state); !written.ok())
     return {CreateOutcome::NotSaved, written.error};
   m_state.PuzzleCount = 1;
-  const PuzzleReadResult read = readPuzzle(outputPath, 1, m_board, m_state, ClueSource{&m_meanings, meaningsPath, hooks.events});
+  const PuzzleReadResult read =
+      readPuzzle(outputPath, 1, m_board, m_state, ClueSource{&m_meanings, meaningsPath, hooks.events});
   if (!read.loaded()) return {CreateOutcome::NotSaved, read.message.empty() ? "Error reading puzzle" : read.message};
   report(hooks.status, "Puzzle created ...");
   return {CreateOutcome::Created, {}};

@@ -20,7 +20,8 @@
 namespace combwise {
 
 inline constexpr const char* kTemporaryPuzzleFile = "tempcombwisepuzzle.txt";
-inline constexpr const char* kLargePuzzleRefusal = "Creating a large puzzle with english1/2 dictionaries will take long time";
+inline constexpr const char* kLargePuzzleRefusal =
+    "Creating a large puzzle with english1/2 dictionaries will take long time";
 
 enum class CreateOutcome {
   Created,

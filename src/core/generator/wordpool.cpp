@@ -91,14 +91,17 @@ void WordPool::shuffleFast(RandomSource& random) {
   constexpr std::uint64_t kKeyShift = 44;
   for (std::size_t i = 0; i < n; ++i) {
     const auto key = static_cast<std::uint64_t>(floorWhole(random.next() * kKeySpan + 1));
-    m_scratch[i] = (key << kKeyShift) | (static_cast<std::uint64_t>(m_rank[static_cast<std::size_t>(m_order[i])]) << 22) | i;
+    m_scratch[i] =
+        (key << kKeyShift) | (static_cast<std::uint64_t>(m_rank[static_cast<std::size_t>(m_order[i])]) << 22) | i;
   }
 
   // About two buckets per value, chosen by the key's top bits.
   int shift = 0;
   while ((static_cast<std::size_t>(kKeySpan) >> (shift + 1)) >= 2 * n) ++shift;
   const std::size_t buckets = (static_cast<std::size_t>(kKeySpan) >> shift) + 1;
-  const auto bucketOf = [shift](std::uint64_t value) { return static_cast<std::size_t>(value >> (kKeyShift + static_cast<unsigned>(shift))); };
+  const auto bucketOf = [shift](std::uint64_t value) {
+    return static_cast<std::size_t>(value >> (kKeyShift + static_cast<unsigned>(shift)));
+  };
   m_bucketStart.assign(buckets + 1, 0);
   for (std::uint64_t value : m_scratch) ++m_bucketStart[bucketOf(value) + 1];
   for (std::size_t b = 1; b <= buckets; ++b) m_bucketStart[b] += m_bucketStart[b - 1];
@@ -119,7 +122,8 @@ void WordPool::shuffleFast(RandomSource& random) {
 const std::vector<int>& WordPool::positions() const {
   if (!m_positionsValid) {
     m_position.resize(m_order.size());
-    for (std::size_t i = 0; i < m_order.size(); ++i) m_position[static_cast<std::size_t>(m_order[i])] = static_cast<int>(i);
+    for (std::size_t i = 0; i < m_order.size(); ++i)
+      m_position[static_cast<std::size_t>(m_order[i])] = static_cast<int>(i);
     m_positionsValid = true;
   }
   return m_position;

@@ -26,7 +26,9 @@ class WordPool {
 
   int count() const { return static_cast<int>(m_order.size()); }
   // The word at a position of the pool order (0-based).
-  const std::string& at(int position) const { return (*m_words)[static_cast<std::size_t>(m_order[static_cast<std::size_t>(position)])]; }
+  const std::string& at(int position) const {
+    return (*m_words)[static_cast<std::size_t>(m_order[static_cast<std::size_t>(position)])];
+  }
   // The words in pool order.
   std::vector<std::string> orderedWords() const;
 
@@ -49,13 +51,13 @@ class WordPool {
   const std::vector<int>& positions() const;
 
   const std::vector<std::string>* m_words;
-  std::vector<int> m_order;                          // pool position -> word index
-  std::vector<std::uint32_t> m_rank;                 // word index -> rank by case-ignoring order
+  std::vector<int> m_order;                                      // pool position -> word index
+  std::vector<std::uint32_t> m_rank;                             // word index -> rank by case-ignoring order
   std::unordered_map<std::string, std::vector<int>> m_anagrams;  // sorted letters -> word indexes
   std::vector<std::uint64_t> m_scratch;
   std::vector<std::uint64_t> m_sorted;
   std::vector<std::size_t> m_bucketStart;
-  mutable std::vector<int> m_position;               // word index -> pool position
+  mutable std::vector<int> m_position;  // word index -> pool position
   mutable bool m_positionsValid = false;
 };
 

@@ -20,15 +20,15 @@ struct SizeRow {
 constexpr std::array<SizeRow, 4> kSizeTable = {{
     {7, 7, 11, "5,6,7,13,14,20,21,24,32,35,43,46,47,53,54,60,61,62,"},
     {10, 9, 11, "5,6,7,13,14,20,21,24,32,35,43,46,54,57,65,68,69,75,76,82,83,84,"},
-    {17, 10, 17,
-     "5,6,7,11,12,13,19,20,26,32,33,36,50,53,67,70,84,87,101,104,105,111,117,118,124,125,126,130,131,132,"},
+    {17, 10, 17, "5,6,7,11,12,13,19,20,26,32,33,36,50,53,67,70,84,87,101,104,105,111,117,118,124,125,126,130,131,132,"},
     {22, 11, 17,
      "5,6,7,11,12,13,19,20,36,26,32,33,50,53,70,67,84,87,104,101,118,121,139,138,145,135,152,151,160,159,158,166,"
      "165,164,"},
 }};
 
 const SizeRow* sizeRow(int size) {
-  const auto found = std::find_if(kSizeTable.begin(), kSizeTable.end(), [size](const SizeRow& r) { return r.size == size; });
+  const auto found =
+      std::find_if(kSizeTable.begin(), kSizeTable.end(), [size](const SizeRow& r) { return r.size == size; });
   return found == kSizeTable.end() ? nullptr : &*found;
 }
 
@@ -105,8 +105,7 @@ bool Board::setUp(int size) {
       const GridPos at = *ringPosition(hex, k);
       m_inside[hex][k] = m_cellAt[at.row][at.col];
       const GridPos out{at.row + kOutward[k].row, at.col + kOutward[k].col};
-      if (inStorage(out.row, out.col) && m_hexAt[out.row][out.col] != 0)
-        m_outside[hex][k] = m_cellAt[out.row][out.col];
+      if (inStorage(out.row, out.col) && m_hexAt[out.row][out.col] != 0) m_outside[hex][k] = m_cellAt[out.row][out.col];
     }
   }
   return true;
@@ -135,7 +134,8 @@ std::optional<GridPos> Board::ringPosition(int hex, int k) const {
 
 int Board::outsideCount(int hex) const {
   if (hex < 1 || hex > hexCount()) return 0;
-  return static_cast<int>(std::count_if(m_outside[hex].begin() + 1, m_outside[hex].end(), [](int c) { return c != 0; }));
+  return static_cast<int>(
+      std::count_if(m_outside[hex].begin() + 1, m_outside[hex].end(), [](int c) { return c != 0; }));
 }
 
 int Board::ringIndexAt(int row, int col) const {

@@ -21,11 +21,11 @@ struct GridPos {
 
 class Board {
  public:
-  static constexpr int kMaxRow = 12;     // storage rows 0..12
-  static constexpr int kMaxCol = 18;     // storage columns 0..18
-  static constexpr int kMaxCell = 216;   // cells 1..216
-  static constexpr int kMaxHex = 25;     // hexagons 1..25
-  static constexpr int kRing = 6;        // cells per hexagon
+  static constexpr int kMaxRow = 12;    // storage rows 0..12
+  static constexpr int kMaxCol = 18;    // storage columns 0..18
+  static constexpr int kMaxCell = 216;  // cells 1..216
+  static constexpr int kMaxHex = 25;    // hexagons 1..25
+  static constexpr int kRing = 6;       // cells per hexagon
 
   // The four puzzle sizes, in the order the size label cycles through them.
   static constexpr std::array<int, 4> kSizes = {7, 10, 17, 22};
@@ -38,7 +38,7 @@ class Board {
   // the four builds nothing: the board is left empty and false is returned.
   bool setUp(int size);
 
-  int size() const { return m_size; }          // -1 before any set-up
+  int size() const { return m_size; }  // -1 before any set-up
   int hexCount() const { return m_size > 0 ? m_size : 0; }
   int wordCount() const { return 2 * hexCount(); }
   int rows() const { return m_rows; }

@@ -67,14 +67,16 @@ std::vector<std::string> invariantBreaches(const Board& board, const PuzzleState
     for (int k = 1; k <= Board::kRing; ++k) {
       const int in = board.InsideCells(hex, k);
       inside += state.Letters.at(board.CellRow(in), board.CellCol(in));
-      if (const int out = board.OutsideCells(hex, k)) outside += state.Letters.at(board.CellRow(out), board.CellCol(out));
+      if (const int out = board.OutsideCells(hex, k))
+        outside += state.Letters.at(board.CellRow(out), board.CellCol(out));
     }
     const std::string& insideWord = state.WordSlots[2 * hex];
     const std::string& outsideWord = state.WordSlots[2 * hex - 1];
     if (sortedLetters(inside) != sortedLetters(insideWord))
       breaches.push_back("hexagon " + NumberText(hex) + ": inside letters " + inside + " do not spell " + insideWord);
     if (sortedLetters(outside) != sortedLetters(outsideWord))
-      breaches.push_back("hexagon " + NumberText(hex) + ": outside letters " + outside + " do not spell " + outsideWord);
+      breaches.push_back("hexagon " + NumberText(hex) + ": outside letters " + outside + " do not spell " +
+                         outsideWord);
   }
   for (int slot = std::max(state.WordCount, 0) + 1; slot <= PuzzleState::kMaxSlots; ++slot) {
     if (!state.WordSlots[slot].empty()) breaches.push_back("slot " + NumberText(slot) + " is beyond the word count");

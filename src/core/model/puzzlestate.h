@@ -26,7 +26,8 @@ class LetterGrid {
 
  private:
   static std::size_t index(int row, int col) {
-    if (row < 0 || row > Board::kMaxRow || col < 0 || col > Board::kMaxCol) return 0;  // row 0 column 0 never holds a letter
+    if (row < 0 || row > Board::kMaxRow || col < 0 || col > Board::kMaxCol)
+      return 0;  // row 0 column 0 never holds a letter
     return static_cast<std::size_t>(row) * (Board::kMaxCol + 1) + static_cast<std::size_t>(col);
   }
   std::array<std::string, (Board::kMaxRow + 1) * (Board::kMaxCol + 1)> m_cells{};

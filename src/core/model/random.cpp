@@ -2,10 +2,10 @@
 // the source's salt and the running draw count.
 #include "core/model/random.h"
 
+#include <time.h>
 #include <bit>
 #include <chrono>
 #include <ctime>
-#include <time.h>
 
 namespace combwise {
 namespace {

@@ -15,8 +15,8 @@ std::string NumberText(long long n) { return std::to_string(n); }
 
 std::string zeroPadded(long long n, int width) {
   const bool negative = n < 0;
-  std::string digits = std::to_string(negative ? -static_cast<unsigned long long>(n)
-                                               : static_cast<unsigned long long>(n));
+  std::string digits =
+      std::to_string(negative ? -static_cast<unsigned long long>(n) : static_cast<unsigned long long>(n));
   if (static_cast<int>(digits.size()) < width) digits.insert(0, width - digits.size(), '0');
   return negative ? "-" + digits : digits;
 }

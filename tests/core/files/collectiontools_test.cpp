@@ -9,9 +9,9 @@
 #include <filesystem>
 #include <random>
 
-#include "support/tempfolder.h"
 #include "core/files/textfile.h"
 #include "core/model/text.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {

@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <random>
 
-#include "support/tempfolder.h"
 #include "core/files/textfile.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {

@@ -8,8 +8,8 @@
 #include <chrono>
 #include <random>
 
-#include "support/tempfolder.h"
 #include "core/model/text.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {

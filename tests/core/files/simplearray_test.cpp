@@ -6,8 +6,8 @@
 
 #include <initializer_list>
 
-#include "support/tempfolder.h"
 #include "core/files/textfile.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {
