@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <functional>
 #include <limits>
 #include <ostream>
 
@@ -54,13 +55,12 @@ bool loadWords(Context& context, const std::string& dictionaryPath, const std::s
   return true;
 }
 
-// Appends the puzzles, with a progress bar, and reports the time taken.
-int appendPuzzles(Context& context, const std::string& output, const LoadedWords& words,
-                  const LineRunOptions& options) {
+// Runs an append of puzzles with a progress bar and reports the time taken.
+int timedRun(Context& context, const std::string& output, const LineRunOptions& options,
+             const std::function<Status(const std::function<void(int)>&)>& run) {
   ProgressBar bar(context.err, options.count, context.progressOnTerminal);
   const auto start = std::chrono::steady_clock::now();
-  const Status status =
-      appendPuzzleLines(output, words.dictionary, words.meanings, options, [&bar](int done) { bar.update(done); });
+  const Status status = run([&bar](int done) { bar.update(done); });
   bar.finish();
   if (!status.ok()) {
     context.err << "combwise-cli: " << status.error << "\n";
@@ -113,7 +113,9 @@ int runCreate(Context& context, const Arguments& args) {
   }
   LoadedWords words;
   if (!loadWords(context, dictionaryPath, parsed.value("--meanings").value_or(context.meaningsPath()), words)) return 1;
-  return appendPuzzles(context, *output, words, options);
+  return timedRun(context, *output, options, [&](const std::function<void(int)>& progress) {
+    return appendPuzzleLines(*output, words.dictionary, words.meanings, options, progress);
+  });
 }
 
 int runBatch(Context& context, const Arguments& args) {
@@ -133,9 +135,14 @@ int runBatch(Context& context, const Arguments& args) {
     context.err << "combwise-cli batch: " << parsed.error << "\n\n" << kBatchHelp;
     return 2;
   }
+  Board board;
+  PuzzleState state;
   LoadedWords words;
-  if (!loadWords(context, context.dictionaryPath(), context.meaningsPath(), words)) return 1;
-  const int status = appendPuzzles(context, context.programFolder + kBatchFile, words, options);
+  PuzzleMaker maker(board, state, words.dictionary, words.meanings);
+  const std::string output = context.programFolder + kBatchFile;
+  const int status = timedRun(context, output, options, [&](const std::function<void(int)>& progress) {
+    return maker.runBatch(context.programFolder, options, progress);
+  });
   if (status == 0) context.out << "done\n";
   return status;
 }

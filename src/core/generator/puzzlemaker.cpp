@@ -41,6 +41,16 @@ PuzzleGenerator& PuzzleMaker::generator() {
   return *m_generator;
 }
 
+Status PuzzleMaker::runBatch(const std::string& programFolder, const LineRunOptions& options,
+                             const std::function<void(int)>& progress, const StatusReport& status) {
+  useSize(kBatchSize);
+  if (Status read = loadDictionary(programFolder + "english3.txt", status); !read.ok()) return read;
+  if (Status read = loadMeanings(programFolder + "mean3456.txt", status); !read.ok()) return read;
+  LineRunOptions batch = options;
+  batch.size = kBatchSize;
+  return appendPuzzleLines(programFolder + kBatchFile, m_dictionary, m_meanings, batch, progress);
+}
+
 CreateResult PuzzleMaker::create(int size, const std::string& dictionaryPath, const std::string& meaningsPath,
                                  RandomSource& random, const GeneratorHooks& hooks, const std::string& outputPath) {
   if (refuses(dictionaryPath, size)) return {CreateOutcome::Refused, kLargePuzzleRefusal};

@@ -6,11 +6,13 @@
 // their order from one puzzle to the next, for the dictionary it read.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "core/files/dictionary.h"
 #include "core/files/puzzlefile.h"
+#include "core/generator/batch.h"
 #include "core/generator/generator.h"
 #include "core/model/board.h"
 #include "core/model/callbacks.h"
@@ -57,6 +59,14 @@ class PuzzleMaker {
   CreateResult create(int size, const std::string& dictionaryPath, const std::string& meaningsPath,
                       RandomSource& random, const GeneratorHooks& hooks = {},
                       const std::string& outputPath = kTemporaryPuzzleFile);
+
+  // The batch: puzzles of size 17 from the program folder's "english3.txt"
+  // (and its "mean3456.txt"), appended one by one to the program folder's
+  // "puz-18sepsize17D.txt", which is extended, never truncated. The size
+  // and the dictionary stay set afterwards. `progress` hears each appended
+  // puzzle's number.
+  Status runBatch(const std::string& programFolder, const LineRunOptions& options,
+                  const std::function<void(int)>& progress = {}, const StatusReport& status = {});
 
   // The board is set up for the size when it differs from the current one.
   void useSize(int size);
