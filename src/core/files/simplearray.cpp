@@ -179,21 +179,20 @@ int clsSimpleArray::FindStringOnceAny(std::string_view text) const {
 int clsSimpleArray::FindStringAll(std::string_view letters, int count) const {
   // Letters past the end of `letters` are empty and always "contained".
   const std::string_view wanted = letters.substr(0, static_cast<std::size_t>(std::max(count, 0)));
-  std::string copy;
   for (int i = 0; i < ListCount(); ++i) {
-    copy = m_items[i];
-    bool all = true;
-    for (char letter : wanted) {
-      const auto at = copy.find(letter);
-      if (at == std::string::npos) {
-        all = false;
-        break;
-      }
-      copy.erase(at, 1);
-    }
-    if (all) return i;
+    if (containsAllLetters(m_items[i], wanted)) return i;
   }
   return -1;
+}
+
+bool containsAllLetters(std::string_view item, std::string_view letters) {
+  std::string copy(item);
+  for (char letter : letters) {
+    const auto at = copy.find(letter);
+    if (at == std::string::npos) return false;
+    copy.erase(at, 1);
+  }
+  return true;
 }
 
 int clsSimpleArray::FindWordInDict(std::string_view key) const {

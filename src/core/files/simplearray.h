@@ -89,6 +89,10 @@ class clsSimpleArray {
   const ErrorLog* m_log = nullptr;
 };
 
+// True when `item` holds every character of `letters`, each as often as it
+// occurs there (the test of FindStringAll).
+bool containsAllLetters(std::string_view item, std::string_view letters);
+
 // The wildcard match of the list's searches: "?" one character, "*" any
 // run, "#" one digit, "[...]" one character of a set (ranges like a-z
 // allowed), "[!...]" one character outside it. Characters compare exactly.

@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "core/files/dictionary.h"
+#include "core/files/simplearray.h"
 #include "core/files/sortedkeylist.h"
 #include "core/model/text.h"
 
@@ -15,16 +16,6 @@ namespace {
 constexpr double kKeySpan = 99988.0;
 
 }  // namespace
-
-bool containsAllLetters(std::string_view item, std::string_view letters) {
-  std::string copy(item);
-  for (char letter : letters) {
-    const auto at = copy.find(letter);
-    if (at == std::string::npos) return false;
-    copy.erase(at, 1);
-  }
-  return true;
-}
 
 WordPool::WordPool(const std::vector<std::string>* words) : m_words(words) {
   const int n = static_cast<int>(words->size());

@@ -61,8 +61,4 @@ class WordPool {
   mutable bool m_positionsValid = false;
 };
 
-// True when `item` holds every character of `letters`, each as often as it
-// occurs there.
-bool containsAllLetters(std::string_view item, std::string_view letters);
-
 }  // namespace combwise
