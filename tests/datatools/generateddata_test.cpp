@@ -5,28 +5,24 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <regex>
 #include <set>
 
 #include "core/files/dictionary.h"
 #include "data/tools/glossrules.h"
 #include "data/tools/wordconverter.h"
+#include "support/gamedata.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {
 
-const std::string kBinDir = COMBWISE_BIN_DIR;
-
 // The file's lines split at CR LF; fails the test when a line ends otherwise.
 std::vector<std::string> crLfLines(const std::string& name) {
-  std::ifstream in(kBinDir + "/" + name, std::ios::binary);
-  EXPECT_TRUE(in) << name << " is missing";
-  const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  const std::string text = TempFolder::contentOf(testing::gameDataPath(name));
+  EXPECT_FALSE(text.empty()) << name << " is missing or empty";
   std::vector<std::string> lines;
-  std::size_t start = 0;
-  while (start < text.size()) {
+  for (std::size_t start = 0; start < text.size();) {
     const auto end = text.find('\n', start);
     if (end == std::string::npos || end == start || text[end - 1] != '\r') {
       ADD_FAILURE() << name << ": line " << lines.size() + 1 << " does not end in CR LF";
@@ -69,8 +65,7 @@ TEST(GeneratedWords, MeaningsAreSortedPrintableAndHideTheirAnswers) {
 // Through the game's own reader and binary search.
 TEST(GeneratedWords, EveryWordIsPlainAndFindsItsCluesThroughTheGamesSearch) {
   EXPECT_TRUE(dictionary().size() >= 6000 && dictionary().size() <= 15000) << dictionary().size();
-  Meanings reader;
-  ASSERT_TRUE(reader.read(kBinDir + "/mean3456.txt").ok());
+  const Meanings& reader = testing::gameMeanings();
   ASSERT_EQ(reader.lineCount(), static_cast<int>(meanings().size()));
   for (const std::string& word : dictionary()) {
     EXPECT_TRUE(word.size() >= 3 && word.size() <= 6 &&

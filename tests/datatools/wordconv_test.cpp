@@ -26,41 +26,32 @@ TEST(CleanGloss, KeepsTheDefinitionAndDropsExamples) {
   EXPECT_EQ(cleanGloss(R"("only an example")"), "");
 }
 
-TEST(OffensiveMarker, CatchesLabelledTermsButNotOrdinaryUse) {
+TEST(GlossFilters, CatchLabelledOffensiveTermsAndSexualSensesButNotOrdinaryUse) {
   for (const char* marked : {"(ethnic slur) offensive term for a person of Irish descent", "obscene terms for feces",
                              "(slang) a disparaging term for an Asian person", "vulgar slang for a drinking bout",
-                             "(Offensive) a stupid person"}) {
+                             "(Offensive) a stupid person"})
     EXPECT_TRUE(hasOffensiveMarker(marked)) << marked;
-  }
   for (const char* plain : {"an offensive against an enemy", "(music) a slur over two notes of the same pitch",
-                            "offensively bold", "speak disparagingly of"}) {
+                            "offensively bold", "speak disparagingly of"})
     EXPECT_FALSE(hasOffensiveMarker(plain)) << plain;
-  }
-}
-
-TEST(AdultGloss, CatchesSexualSensesAsWholeWordsOnly) {
-  EXPECT_TRUE(isAdultGloss("have sexual intercourse with"));
-  EXPECT_TRUE(isAdultGloss("the male organ of copulation"));
-  EXPECT_FALSE(isAdultGloss("a person who lives in Essex"));
-  EXPECT_FALSE(isAdultGloss("a canal for boats"));
+  // Sexual senses are caught as whole words only.
+  EXPECT_TRUE(isAdultGloss("have sexual intercourse with") && isAdultGloss("the male organ of copulation"));
+  EXPECT_FALSE(isAdultGloss("a person who lives in Essex") || isAdultGloss("a canal for boats"));
 }
 
 TEST(AnswerForms, HideTheWordAndItsObviousForms) {
   using Case = std::pair<const char*, const char*>;
   // The word may itself be the inflected form ("news", "stopped").
-  for (const auto& [word, text] :
-       {Case{"cat", "a Cat of the house"}, Case{"cat", "the cat's whiskers"}, Case{"cat", "a cat-like creature"},
-        Case{"cat", "domestic cats"}, Case{"box", "put in boxes"}, Case{"spy", "one who spies"},
-        Case{"spy", "was spied on"}, Case{"bake", "the baking of bread"}, Case{"bake", "baked goods"},
-        Case{"stop", "the train stopped"}, Case{"stop", "no stopping"}, Case{"big", "bigger than a house"},
-        Case{"news", "new information"}, Case{"stopped", "to stop"}, Case{"baking", "to bake"}}) {
-    EXPECT_TRUE(showsAnyForm(text, obviousForms(word))) << word << ": " << text;
-  }
+  const Case shown[] = {{"cat", "a Cat of the house"}, {"cat", "the cat's whiskers"},   {"cat", "a cat-like creature"},
+                        {"cat", "domestic cats"},      {"box", "put in boxes"},         {"spy", "one who spies"},
+                        {"spy", "was spied on"},       {"bake", "the baking of bread"}, {"bake", "baked goods"},
+                        {"stop", "the train stopped"}, {"stop", "no stopping"},         {"big", "bigger than a house"},
+                        {"news", "new information"},   {"stopped", "to stop"},          {"baking", "to bake"}};
+  for (const auto& [word, text] : shown) EXPECT_TRUE(showsAnyForm(text, obviousForms(word))) << word << ": " << text;
   for (const auto& [word, text] :
        {Case{"cat", "a catalog of wares"}, Case{"cat", "scat"}, Case{"thing", "the object of the sentence"},
-        Case{"its", "it belongs to it"}, Case{"forest", "a place for trees"}}) {
+        Case{"its", "it belongs to it"}, Case{"forest", "a place for trees"}})
     EXPECT_FALSE(showsAnyForm(text, obviousForms(word))) << word << ": " << text;
-  }
 }
 
 // A small database in WordNet's layout. Offsets here are only names: the

@@ -31,7 +31,6 @@ class TempFolder {
   // The folder with a trailing separator, as the program folder is given.
   std::string folder() const { return m_path.string() + "/"; }
   std::string file(const std::string& name) const { return (m_path / name).string(); }
-  const std::filesystem::path& path() const { return m_path; }
 
   // A file's bytes as they are on disk, line ends included.
   static std::string contentOf(const std::string& file) {

@@ -16,7 +16,6 @@
 namespace combwise {
 namespace {
 
-using ::testing::Contains;
 using ::testing::UnorderedElementsAreArray;
 
 // The rule as stated, one line against every kept line.
@@ -67,31 +66,11 @@ TEST(Randomize, DropsRepeatsCaseVariantsAndBeginningsOfEarlierLines) {
   EXPECT_EQ(pumped, 7);
   EXPECT_THAT(*readLines(result.outputPath), UnorderedElementsAreArray({"7;ABC;TEA,1;", "7;ABC;TEA,1;X", "10;Z;"}));
   EXPECT_EQ(*readLines(source), lines);
-  EXPECT_EQ(progress.front(), "source 1 1");
-  EXPECT_THAT(progress, Contains("source 7 3"));
-  EXPECT_THAT(progress, Contains("no dup 3"));
-  EXPECT_EQ(progress.back(), "random 3");
+  EXPECT_EQ(progress.front() + "|" + progress.back(), "source 1 1|random 3");
+  EXPECT_THAT(progress, ::testing::IsSupersetOf({"source 7 3", "no dup 3"}));
 }
 
-TEST(Randomize, ASeededSourceGivesTheSameOrderEveryTime) {
-  TempFolder folder;
-  const std::string source = folder.file("big.txt");
-  std::vector<std::string> lines;
-  for (int i = 0; i < 200; ++i) lines.push_back("7;PUZZLE" + NumberText(1000 + i) + ";");
-  ASSERT_TRUE(writeLines(source, lines, WriteMode::Truncate));
-
-  const auto shuffled = [&](std::uint64_t seed) {
-    RandomSource random = RandomSource::seeded(seed);
-    EXPECT_TRUE(randomizeCollection(source, random).status.ok());
-    return *readLines(folder.file("big-noduprandom.txt"));
-  };
-  const auto first = shuffled(3);
-  EXPECT_EQ(shuffled(3), first);
-  EXPECT_NE(shuffled(4), first);
-  EXPECT_THAT(first, UnorderedElementsAreArray(lines));
-}
-
-TEST(Randomize, RandomCollectionsKeepExactlyTheLinesTheRuleKeeps) {
+TEST(Randomize, RandomCollectionsKeepExactlyTheLinesTheRuleKeepsShuffledAsTheSeedFixes) {
   TempFolder folder;
   std::mt19937 engine(11);
   const std::string alphabet = "aAbB;";
@@ -103,12 +82,20 @@ TEST(Randomize, RandomCollectionsKeepExactlyTheLinesTheRuleKeeps) {
       lines.push_back(line);
     }
     ASSERT_TRUE(writeLines(folder.file("r.txt"), lines, WriteMode::Truncate));
-    RandomSource random = RandomSource::seeded(round);
-    const auto result = randomizeCollection(folder.file("r.txt"), random);
-    ASSERT_TRUE(result.status.ok());
+    long long distinct = 0;
+    const auto randomized = [&](std::uint64_t seed) {
+      RandomSource random = RandomSource::seeded(seed);
+      const auto result = randomizeCollection(folder.file("r.txt"), random);
+      EXPECT_TRUE(result.status.ok());
+      distinct = result.distinctCount;
+      return *readLines(folder.file("r-noduprandom.txt"));
+    };
+    const auto shuffled = randomized(round);
     const auto kept = keptLines(lines);
-    EXPECT_EQ(result.distinctCount, static_cast<long long>(kept.size()));
-    EXPECT_THAT(*readLines(result.outputPath), UnorderedElementsAreArray(kept));
+    EXPECT_EQ(distinct, static_cast<long long>(kept.size()));
+    EXPECT_THAT(shuffled, UnorderedElementsAreArray(kept));
+    EXPECT_EQ(randomized(round), shuffled);
+    EXPECT_NE(randomized(round + 100), shuffled);
   }
 }
 

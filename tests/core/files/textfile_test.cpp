@@ -46,7 +46,7 @@ TEST(TextFile, WritesCrLfAppendsAndReplacesWithoutLeavingATemporaryFile) {
 
   ASSERT_TRUE(replaceFileContent(path, "new\r\n"));
   EXPECT_EQ(TempFolder::contentOf(path), "new\r\n");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(temp.path()), {}), 1);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(temp.folder()), {}), 1);
   EXPECT_FALSE(replaceFileContent(temp.file("no/folder.txt"), "x"));
 }
 

@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <set>
 
+#include "core/files/textfile.h"
 #include "core/generator/letters.h"
 #include "core/model/text.h"
 #include "support/gamedata.h"
@@ -30,57 +30,34 @@ Made makePuzzle(PuzzleGenerator& generator, int size, RandomSource& random) {
   return made;
 }
 
-bool inPool(const Dictionary& dictionary, const std::string& word) {
-  const clsSimpleArray* pool = dictionary.pool(static_cast<int>(word.size()));
-  return pool && pool->FindStringOnce(word) >= 0;
-}
-
-TEST(Generator, PuzzlesOfEverySizeAreSoundAndUseDictionaryWordsWithTheirClues) {
+// The summary has a line per slot in slot order, so each hexagon's outside
+// line comes before its inside line.
+TEST(Generator, PuzzlesOfEverySizeAreSoundUseDictionaryWordsWithTheirCluesAndAreSummarisedSlotBySlot) {
   PuzzleGenerator generator(gameDictionary(), gameMeanings());
   RandomSource random = RandomSource::seeded(7);
   for (int size : Board::kSizes) {
     for (int round = 0; round < 3; ++round) {
       const Made made = makePuzzle(generator, size, random);
       EXPECT_TRUE(invariantBreaches(made.board, made.state).empty()) << "size " << size;
+      const auto& summary = generator.summaryLines();
+      ASSERT_EQ(summary.size(), static_cast<std::size_t>(2 * size));
       for (int slot = 1; slot <= made.state.WordCount; ++slot) {
         const std::string& word = made.state.WordSlots[slot];
-        EXPECT_TRUE(inPool(gameDictionary(), word)) << word;
-        EXPECT_GE(made.state.MeaningNumbers[slot], 1) << word;
+        const clsSimpleArray* pool = gameDictionary().pool(static_cast<int>(word.size()));
+        EXPECT_TRUE(pool && pool->FindStringOnce(word) >= 0) << word;
         EXPECT_EQ(made.state.ClueTexts[slot], gameMeanings().clue(word, made.state.MeaningNumbers[slot]));
         EXPECT_FALSE(made.state.ClueTexts[slot].empty()) << word;
+        const std::string& line = summary[static_cast<std::size_t>(slot - 1)];
+        EXPECT_EQ(line.substr(0, 4), Format00((slot + 1) / 2) + (slot % 2 == 1 ? "E " : "I ")) << line;
+        EXPECT_EQ(line.substr(line.rfind(' ') + 1), word);
       }
-      // Every cell of a hexagon carries a letter; none stands elsewhere.
+      // Every cell of a hexagon carries one letter, so each word is as long
+      // as its ring; none stands elsewhere.
       for (int row = 1; row <= made.board.rows(); ++row) {
         for (int col = 1; col <= made.board.cols(); ++col)
           EXPECT_EQ(made.state.Letters.at(row, col).size(), made.board.HexAt(row, col) ? 1u : 0u);
       }
     }
-  }
-}
-
-TEST(Generator, SizeSevenCentreTakesASixLetterOutsideWordAndTheRimThreeLetterOnes) {
-  PuzzleGenerator generator(gameDictionary(), gameMeanings());
-  RandomSource random = RandomSource::seeded(11);
-  const Made made = makePuzzle(generator, 7, random);
-  for (int hex = 1; hex <= 7; ++hex) {
-    EXPECT_EQ(made.state.WordSlots[2 * hex - 1].size(), hex == 4 ? 6u : 3u) << hex;
-    EXPECT_EQ(made.state.WordSlots[2 * hex].size(), 6u) << hex;
-  }
-}
-
-TEST(Generator, SummaryListsEachHexagonsOutsideLineBeforeItsInsideLineInHexagonOrder) {
-  PuzzleGenerator generator(gameDictionary(), gameMeanings());
-  RandomSource random = RandomSource::seeded(3);
-  const Made made = makePuzzle(generator, 17, random);
-  const auto& lines = generator.summaryLines();
-  ASSERT_EQ(lines.size(), 34u);
-  for (int hex = 1; hex <= 17; ++hex) {
-    const std::string& outside = lines[static_cast<std::size_t>(2 * hex - 2)];
-    const std::string& inside = lines[static_cast<std::size_t>(2 * hex - 1)];
-    EXPECT_EQ(outside.substr(0, 4), Format00(hex) + "E ");
-    EXPECT_EQ(inside.substr(0, 4), Format00(hex) + "I ");
-    EXPECT_EQ(outside.substr(outside.rfind(' ') + 1), made.state.WordSlots[2 * hex - 1]);
-    EXPECT_EQ(inside.substr(inside.rfind(' ') + 1), made.state.WordSlots[2 * hex]);
   }
 }
 
@@ -106,19 +83,12 @@ TEST(Generator, FastFormMakesTheSamePuzzlesAsTheStraightforwardForm) {
   EXPECT_EQ(fast.pool(5).orderedWords(), plain.pool(5).orderedWords());
 }
 
-class SmallFiles : public ::testing::Test {
- protected:
-  std::string write(const std::string& name, const std::string& text) {
-    const std::string path = m_temp.file(name);
-    std::ofstream(path, std::ios::binary) << text;
-    return path;
-  }
-  TempFolder m_temp;
-};
-
-TEST_F(SmallFiles, APoolOfOneWordNeverYieldsACandidateSoNothingIsDrawn) {
+TEST(Generator, APoolOfOneWordNeverYieldsACandidateSoNothingIsDrawn) {
+  TempFolder temp;
+  ASSERT_TRUE(
+      writeLines(temp.file("d.txt"), {"CAT", "DOG", "TEAR", "SEAT", "TEARS", "STARE", "SEATED"}, WriteMode::Truncate));
   Dictionary dictionary;
-  ASSERT_TRUE(readDictionary(write("d.txt", "CAT\nDOG\nTEAR\nSEAT\nTEARS\nSTARE\nSEATED\n"), dictionary).ok());
+  ASSERT_TRUE(readDictionary(temp.file("d.txt"), dictionary).ok());
   Meanings meanings;
   PuzzleGenerator generator(dictionary, meanings);
   EXPECT_FALSE(generator.canGenerate());
@@ -130,9 +100,12 @@ TEST_F(SmallFiles, APoolOfOneWordNeverYieldsACandidateSoNothingIsDrawn) {
   EXPECT_EQ(random.drawCount(), 0u);
 }
 
-TEST_F(SmallFiles, CluesTakeTheOnlyMeaningWithoutADrawAndPickAmongSeveral) {
+TEST(Clues, TheOnlyMeaningIsTakenWithoutADrawAndOneOfSeveralIsPicked) {
+  TempFolder temp;
+  ASSERT_TRUE(writeLines(temp.file("m.txt"), {"TEA:a drink", "TEAR:a rip", "TEAR:a drop from the eye", "TEAR:to rush"},
+                         WriteMode::Truncate));
   Meanings meanings;
-  ASSERT_TRUE(meanings.read(write("m.txt", "TEA:a drink\nTEAR:a rip\nTEAR:a drop from the eye\nTEAR:to rush\n")).ok());
+  ASSERT_TRUE(meanings.read(temp.file("m.txt")).ok());
   PuzzleState state;
   state.WordCount = 3;
   state.WordSlots[1] = "TEA";

@@ -13,28 +13,32 @@ namespace {
 
 using testing::gameDataPath;
 
-TEST(PuzzleMaker, CreatesThroughTheTemporaryFileReadingTheWordsOnFirstNeed) {
+class PuzzleMaking : public ::testing::Test {
+ protected:
+  CreateResult create(int size, const std::string& dictionary, const GeneratorHooks& hooks = {}) {
+    return maker.create(size, dictionary, gameDataPath("mean3456.txt"), random, hooks, temp.file("temp.txt"));
+  }
   TempFolder temp;
   Board board;
   PuzzleState state;
   Dictionary dictionary;
   Meanings meanings;
-  PuzzleMaker maker(board, state, dictionary, meanings);
+  PuzzleMaker maker{board, state, dictionary, meanings};
+  RandomSource random = RandomSource::seeded(4);
+};
+
+TEST_F(PuzzleMaking, CreatesThroughTheTemporaryFileReadingTheWordsOnFirstNeed) {
   state.Entries.at(2, 5) = "Q";
   std::vector<std::string> statuses;
   GeneratorHooks hooks;
   hooks.status = [&statuses](const std::string& text) { statuses.push_back(text); };
-  RandomSource random = RandomSource::seeded(4);
-  const std::string output = temp.file("temp.txt");
-
   for (int size : {7, 10}) {
-    const CreateResult made =
-        maker.create(size, gameDataPath("english3.txt"), gameDataPath("mean3456.txt"), random, hooks, output);
+    const CreateResult made = create(size, gameDataPath("english3.txt"), hooks);
     ASSERT_TRUE(made.created()) << made.message;
-    EXPECT_EQ(countLines(output), 1);  // written anew, never appended
+    EXPECT_EQ(countLines(temp.file("temp.txt")), 1);  // written anew, never appended
     EXPECT_EQ(state.PuzzleSize, size);
     EXPECT_EQ(board.size(), size);
-    EXPECT_EQ(state.CollectionPath, output);
+    EXPECT_EQ(state.CollectionPath, temp.file("temp.txt"));
     EXPECT_EQ(state.PuzzleNumber, 1);
     EXPECT_EQ(state.PuzzleCount, 1);
     EXPECT_TRUE(invariantBreaches(board, state).empty());
@@ -46,25 +50,19 @@ TEST(PuzzleMaker, CreatesThroughTheTemporaryFileReadingTheWordsOnFirstNeed) {
   EXPECT_EQ(statuses.back(), "Puzzle created ...");
 }
 
-TEST(PuzzleMaker, RefusesSize22WithTheEnglish1And2DictionariesOnly) {
+TEST_F(PuzzleMaking, RefusesSize22WithTheEnglish1And2DictionariesOnly) {
   EXPECT_TRUE(PuzzleMaker::refuses("/words/English2.txt", 22));
   EXPECT_TRUE(PuzzleMaker::refuses("/ENGLISH1/any.dic", 22));
   EXPECT_FALSE(PuzzleMaker::refuses("/words/english2.txt", 17));
   EXPECT_FALSE(PuzzleMaker::refuses("/words/english3.txt", 22));
 
-  Board board;
-  PuzzleState state;
-  Dictionary dictionary;
-  Meanings meanings;
-  PuzzleMaker maker(board, state, dictionary, meanings);
-  RandomSource random = RandomSource::seeded(1);
-  const CreateResult refused = maker.create(22, "english2.txt", gameDataPath("mean3456.txt"), random);
+  const CreateResult refused = create(22, "english2.txt");
   EXPECT_EQ(refused.outcome, CreateOutcome::Refused);
   EXPECT_EQ(refused.message, "Creating a large puzzle with english1/2 dictionaries will take long time");
   EXPECT_EQ(state.PuzzleSize, -1);
   EXPECT_EQ(random.drawCount(), 0u);
 
-  const CreateResult missing = maker.create(7, "/nonexistent/words.txt", gameDataPath("mean3456.txt"), random);
+  const CreateResult missing = create(7, "/nonexistent/words.txt");
   EXPECT_EQ(missing.outcome, CreateOutcome::NoDictionary);
   EXPECT_NE(missing.message.find("/nonexistent/words.txt"), std::string::npos);
 }

@@ -47,14 +47,13 @@ TEST(PuzzleInvariants, ASoundPuzzleHasNoBreachesAndEachKindOfFaultIsFound) {
   board.setUp(7);
   PuzzleState sound;
   sound.WordCount = 14;
-  const auto at = [&](int cell) -> std::string& { return sound.Letters.at(board.CellRow(cell), board.CellCol(cell)); };
-  for (int hex = 1; hex <= 7; ++hex) {
-    for (int k = 1; k <= 6; ++k) at(board.InsideCells(hex, k)) = std::string(1, 'A' + board.InsideCells(hex, k) % 26);
-  }
+  const auto letterAt = [&](int cell) {
+    return sound.Letters.at(board.CellRow(cell), board.CellCol(cell)) = std::string(1, 'A' + cell % 26);
+  };
   for (int hex = 1; hex <= 7; ++hex) {
     for (int k = 6; k >= 1; --k) {  // words may run either way round
-      sound.WordSlots[2 * hex] += at(board.InsideCells(hex, k));
-      if (board.OutsideCells(hex, k)) sound.WordSlots[2 * hex - 1] += at(board.OutsideCells(hex, k));
+      sound.WordSlots[2 * hex] += letterAt(board.InsideCells(hex, k));
+      if (const int cell = board.OutsideCells(hex, k)) sound.WordSlots[2 * hex - 1] += letterAt(cell);
     }
   }
   EXPECT_THAT(invariantBreaches(board, sound), ::testing::IsEmpty());
