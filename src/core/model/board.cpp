@@ -138,15 +138,6 @@ int Board::outsideCount(int hex) const {
       std::count_if(m_outside[hex].begin() + 1, m_outside[hex].end(), [](int c) { return c != 0; }));
 }
 
-int Board::ringIndexAt(int row, int col) const {
-  const int hex = HexAt(row, col);
-  if (hex == 0) return 0;
-  for (int k = 1; k <= kRing; ++k) {
-    if (*ringPosition(hex, k) == GridPos{row, col}) return k;
-  }
-  return 0;
-}
-
 CellSize fitCellSize(int rows, int cols, double areaWidth, double areaHeight) {
   if (rows <= 0 || cols <= 0) return {};
   const long long widthUnits = floorWhole((cols + 1) * 225.0 / 375.0);

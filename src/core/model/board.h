@@ -60,8 +60,6 @@ class Board {
   std::optional<GridPos> ringPosition(int hex, int k) const;
   // Number of non-zero outside cells of a hexagon (3 to 6 on real boards).
   int outsideCount(int hex) const;
-  // Ring position (1..6) of a grid position inside its hexagon, 0 if none.
-  int ringIndexAt(int row, int col) const;
 
   // The free cells of each size, as the program holds them: comma-separated
   // with a trailing comma, not all in ascending order.
