@@ -1,0 +1,195 @@
+// The board's layout, the selection under the pointer, typing, moves, undo,
+// verification and zoom.
+#include <gtest/gtest.h>
+
+#include "core/play/boardscene.h"
+#include "core/play/entry.h"
+#include "core/play/layout.h"
+#include "core/play/verify.h"
+
+namespace combwise {
+namespace {
+
+class FixedMeasure : public TextMeasure {
+ public:
+  double textWidth(std::string_view text) const override { return 100.0 * static_cast<double>(text.size()); }
+  double textHeight(std::string_view) const override { return 210.0; }
+};
+
+struct PlayBoard {
+  explicit PlayBoard(int size) {
+    setUpPuzzle(board, state, size);
+    layout = LayOutBoard({size, board.rows(), board.cols(), 225, 375, 15, 15});
+  }
+  Board board;
+  PuzzleState state;
+  BoardLayout layout;
+};
+
+TEST(BoardLayout, OriginsCellPositionsAndLetterOffsets) {
+  PlayBoard size22(22);
+  EXPECT_EQ(size22.layout.BoardLeft, 100);
+  EXPECT_EQ(size22.layout.BoardTop, 200);
+  EXPECT_EQ(size22.layout.CellX[1][5], 1000);
+  EXPECT_EQ(size22.layout.CellY[12][18], 11 * 375 + 200);  // the extra row and column exist
+  EXPECT_EQ(size22.layout.pictureWidth, 19 * 225);
+  EXPECT_EQ(size22.layout.pictureHeight, 13 * 375);
+  EXPECT_EQ(size22.layout.markerSide, 112);
+  EXPECT_EQ(boardOrigin(7).y, 400);
+  EXPECT_EQ(boardOrigin(10).x, 600);
+  EXPECT_EQ(boardOrigin(17).y, 700);
+
+  EXPECT_EQ(size22.layout.LetterDX[2], 270);  // W + W/5
+  EXPECT_EQ(size22.layout.LetterDY[2], 47);   // H/8 = 46.875
+  EXPECT_EQ(size22.layout.LetterDY[5], 500);
+  EXPECT_EQ(size22.layout.LetterDX[3], 495);
+}
+
+TEST(BoardLayout, HexagonOneOfSize22HasItsCornersOnThePixelsOfTheTemplate) {
+  PlayBoard size22(22);
+  const ScenePolygon outline = hexagonOutline(size22.layout, 1, 5, 1.0, 2);
+  const std::array<PixelPoint, 6> expected = {{{74, 13}, {59, 38}, {74, 63}, {104, 63}, {119, 38}, {104, 13}}};
+  EXPECT_EQ(outline.points, expected);
+  // Neighbouring hexagons of the brick pattern share an edge: hexagon 3's
+  // top-right corner region meets hexagon 1's left corner.
+  const ScenePolygon low = hexagonOutline(size22.layout, 2, 2, 1.0, 2);
+  EXPECT_EQ(low.points[4], outline.points[2]);
+  // Shrinking scales about the picture's origin, pulling outlines up-left.
+  const ScenePolygon shrunk = hexagonOutline(size22.layout, 1, 5, 0.5, 2);
+  EXPECT_EQ(shrunk.points[0], (PixelPoint{67, 6}));
+}
+
+TEST(BoardScene, LettersFollowTheModeAndNumbersAreCentred) {
+  PlayBoard p(7);
+  p.state.Letters.clear();  // drop the set-up's outside-cell markers
+  const int r = p.board.CellRow(p.board.InsideCells(4, 1));
+  const int c = p.board.CellCol(p.board.InsideCells(4, 1));
+  p.state.Letters.at(r, c) = "Q";
+  p.state.Entries.at(r, c) = "Z";
+  p.state.Letters.at(1, 6) = "F";  // a free cell of hexagon 1
+  p.state.Entries.at(1, 6) = "X";
+  FixedMeasure measure;
+  auto textsOf = [&](LetterMode mode) {
+    std::vector<std::string> texts;
+    for (const auto& t : buildBoardScene(p.board, p.state, p.layout, {mode, 2, 0, false}, measure).texts)
+      texts.push_back(t.text + (t.colour == ColourRole::Entry ? "e" : "g"));
+    return texts;
+  };
+  EXPECT_EQ(textsOf(LetterMode::Play), (std::vector<std::string>{"Fg", "Ze"}));
+  EXPECT_EQ(textsOf(LetterMode::Solution), (std::vector<std::string>{"Fg", "Qg"}));
+  EXPECT_EQ(textsOf(LetterMode::Sheet), (std::vector<std::string>{"Fg"}));
+
+  const BoardScene scene = buildBoardScene(p.board, p.state, p.layout, {}, measure);
+  EXPECT_EQ(scene.outlines.size(), 7u);
+  EXPECT_EQ(scene.lines.size(), 21u);
+  ASSERT_EQ(scene.circles.size(), 7u);
+  // Hexagon 1 at (1,5): the number's circle is centred on the middle column.
+  EXPECT_DOUBLE_EQ(scene.circles[0].cx, p.layout.CellX[2][6] + 112.5);
+  EXPECT_DOUBLE_EQ(scene.circles[0].cy, p.layout.CellY[2][6]);
+  EXPECT_DOUBLE_EQ(scene.circles[0].radius, 120.0);
+}
+
+TEST(PointerEntry, PointerSelectsCellsOfHexagonsAndClearsElsewhere) {
+  PlayBoard p(7);
+  const BoardLayout& l = p.layout;
+  // Column 5 begins exactly at its left edge; a twip left is column 4.
+  EXPECT_EQ(pointerCell(l, l.CellX[1][5], l.CellY[1][5]).col, 5);
+  EXPECT_EQ(pointerCell(l, l.CellX[1][5] - 1, l.CellY[1][5]).col, 4);
+
+  HoverResult hover = hoverAt(p.board, l, p.state, l.CellX[3][6] + 5, l.CellY[3][6] + 5);
+  EXPECT_EQ(hover.kind, HoverResult::Kind::Selected);
+  EXPECT_EQ(hover.status, "Hex = 4");
+  EXPECT_EQ(p.state.SelRow, 3);
+  EXPECT_EQ(p.state.SelCol, 6);
+
+  hoverAt(p.board, l, p.state, l.BoardLeft - 10, l.BoardTop + 10);  // column 0
+  EXPECT_EQ(p.state.SelRow, 0);
+
+  p.state.SelRow = 3;
+  p.state.SelCol = 6;
+  hover = hoverAt(p.board, l, p.state, l.BoardLeft + 30 * l.CellWidth, l.BoardTop);  // beyond storage
+  EXPECT_EQ(hover.kind, HoverResult::Kind::Unchanged);
+  EXPECT_EQ(p.state.SelCol, 6);
+}
+
+TEST(PointerEntry, KeysTypeUpperCaseLettersAndAtAndSwallowTheRest) {
+  EXPECT_EQ(entryForKey('a'), "A");
+  EXPECT_EQ(entryForKey('@'), "@");
+  EXPECT_EQ(entryForKey('.'), "");
+  EXPECT_EQ(entryForKey(27), "");
+  EXPECT_EQ(entryForKey('['), std::nullopt);
+  EXPECT_EQ(entryForKey('1'), std::nullopt);
+  EXPECT_EQ(entryForKey(8), std::nullopt);
+  EXPECT_EQ(directionForKey(39), 'R');
+  EXPECT_EQ(directionForKey(36), 'H');
+  EXPECT_EQ(directionForKey(65), 0);
+}
+
+TEST(PointerEntry, TypingRecordsUndoAndUndoWalksBack) {
+  PlayBoard p(7);
+  EXPECT_FALSE(enterAtSelection(p.state, "K"));  // no selection
+  p.state.SelRow = 3;
+  p.state.SelCol = 8;
+  ASSERT_TRUE(enterAtSelection(p.state, "K"));
+  EXPECT_EQ(p.state.UndoList.front(), " 3, 8,");
+  enterAtSelection(p.state, "");  // "." clears, and is recorded too
+  EXPECT_EQ(p.state.UndoList.front(), " 3, 8,K");
+  EXPECT_TRUE(undoLast(p.state));
+  EXPECT_EQ(p.state.Entries.at(3, 8), "K");
+  EXPECT_TRUE(undoLast(p.state));
+  EXPECT_EQ(p.state.Entries.at(3, 8), "");
+  EXPECT_FALSE(undoLast(p.state));
+}
+
+TEST(PointerEntry, MovesStopAtGapsAndFreeCells) {
+  PlayBoard p(7);
+  // Hexagon 4 (centre) spans (3..4, 5..7); (3,5)->(3,4) enters hexagon 2's cell.
+  p.state.SelRow = 3;
+  p.state.SelCol = 5;
+  EXPECT_EQ(MoveSelection(p.board, p.state, 'L'), (GridPos{3, 4}));
+  // Up from (3,4) reaches (2,4) of hexagon 2; further up is no hexagon.
+  EXPECT_EQ(MoveSelection(p.board, p.state, 'U'), (GridPos{2, 4}));
+  EXPECT_EQ(MoveSelection(p.board, p.state, 'U'), (GridPos{2, 4}));
+  // Hexagon 1's top row (1,5..7): (1,6) is a free cell, so a move from (1,5) stays.
+  p.state.SelRow = 1;
+  p.state.SelCol = 5;
+  EXPECT_EQ(MoveSelection(p.board, p.state, 'R'), (GridPos{1, 5}));
+  EXPECT_EQ(MoveSelection(p.board, p.state, 'H'), (GridPos{1, 5}));
+  p.state.SelRow = 0;
+  EXPECT_EQ(MoveSelection(p.board, p.state, 'R'), std::nullopt);
+}
+
+TEST(Verification, OnlyHexagonsWithAWrongNonFreeCellAreUnfinished) {
+  PlayBoard p(7);
+  for (int r = 1; r <= p.board.rows(); ++r)
+    for (int c = 1; c <= p.board.cols(); ++c)
+      if (p.board.HexAt(r, c)) p.state.Letters.at(r, c) = "A";
+  EXPECT_EQ(unfinishedHexagons(p.board, p.state).size(), 7u);
+  for (int r = 1; r <= p.board.rows(); ++r)
+    for (int c = 1; c <= p.board.cols(); ++c)
+      if (p.board.HexAt(r, c) && !p.board.FreeCell(r, c)) p.state.Entries.at(r, c) = "A";
+  p.state.Entries.at(1, 6) = "Z";  // a free cell: never checked
+  EXPECT_TRUE(unfinishedHexagons(p.board, p.state).empty());
+  p.state.Entries.at(3, 6) = "a";  // case matters; only hexagon 4 owns (3,6)
+  EXPECT_EQ(unfinishedHexagons(p.board, p.state), std::vector<int>{4});
+  const auto crosses = verificationCrosses(p.board, p.layout, {4});
+  ASSERT_EQ(crosses.size(), 2u);
+  EXPECT_EQ(crosses[0].x1, p.layout.CellX[4][6]);
+  EXPECT_EQ(crosses[0].y1, p.layout.CellY[4][6] - 93);
+  EXPECT_EQ(crosses[0].penWidth, 3);
+}
+
+TEST(Zoom, StepsRoundHalvesToEvenAndClampTheFont) {
+  EXPECT_EQ(zoomStep(ZoomKind::Out, {200, 333, 10}, 0, 0, 10), (ZoomState{180, 300, 8.5}));
+  EXPECT_EQ(zoomStep(ZoomKind::In, {200, 333, 10}, 0, 0, 10), (ZoomState{220, 366, 11.5}));
+  const ZoomState outIn = zoomStep(ZoomKind::In, zoomStep(ZoomKind::Out, {200, 333, 10}, 0, 0, 10), 0, 0, 10);
+  EXPECT_EQ(outIn.cellWidth, 198);
+  EXPECT_EQ(outIn.cellHeight, 330);
+  EXPECT_EQ(zoomStep(ZoomKind::Out, {225, 375, 6}, 0, 0, 10).cellWidth, 202);
+  EXPECT_EQ(zoomStep(ZoomKind::Out, {225, 375, 6}, 0, 0, 10).fontSize, 5);
+  EXPECT_EQ(zoomStep(ZoomKind::In, {225, 375, 35}, 0, 0, 10).fontSize, 36);
+  EXPECT_EQ(zoomStep(ZoomKind::Reset, {99, 99, 20}, 210, 350, 12), (ZoomState{210, 350, 12}));
+}
+
+}  // namespace
+}  // namespace combwise

@@ -1,0 +1,87 @@
+// Word wrapping, the clue panel, and the browsing rules.
+#include <gtest/gtest.h>
+
+#include "core/files/browsing.h"
+#include "core/model/puzzlestate.h"
+#include "core/play/cluepanel.h"
+#include "core/play/textmeasure.h"
+
+namespace combwise {
+namespace {
+
+// Every character is 10 twips wide and lines 100 high.
+class CharMeasure : public TextMeasure {
+ public:
+  double textWidth(std::string_view text) const override { return 10.0 * static_cast<double>(text.size()); }
+  double textHeight(std::string_view) const override { return 100.0; }
+};
+
+TEST(WrapText, BreaksAtBlanksAndLineEnds) {
+  const CharMeasure m;
+  EXPECT_EQ(WrapText("short text", m, 100), (std::vector<std::string>{"short text"}));
+  EXPECT_EQ(WrapText("one two three four", m, 80), (std::vector<std::string>{"one two", "three", "four"}));
+  EXPECT_EQ(WrapText("a\r\nb c", m, 1000), (std::vector<std::string>{"a", "b c"}));
+  EXPECT_EQ(WrapText("a\nb", m, 1000), (std::vector<std::string>{"a", "b"}));
+  EXPECT_EQ(WrapText("tiny enormousword end", m, 60), (std::vector<std::string>{"tiny", "enormousword", "end"}));
+  EXPECT_TRUE(WrapText("", m, 100).empty());
+}
+
+TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
+  PuzzleState state;
+  state.WordCount = 4;
+  state.ClueTexts[1] = "outside one";
+  state.ClueTexts[2] = "inside one is long enough to wrap";
+  state.ClueTexts[3] = "";
+  state.ClueTexts[4] = "inside two";
+  const CharMeasure m;
+  const CluePanel panel = layOutClues(state, m, 700);  // text column 700 - 20 - 450 = 230 twips
+  std::vector<std::string> texts;
+  for (const auto& line : panel.lines) texts.push_back(line.text);
+  EXPECT_EQ(texts, (std::vector<std::string>{"--", " INSIDE CLUES:", "01. ", "inside one is long", "enough to wrap",
+                                             "02. ", "inside two", "--", " OUTSIDE CLUES:", "01. ", "outside one",
+                                             "02. ", "--"}));
+  // The number and the first line of its clue share a line; the clue goes on below.
+  EXPECT_EQ(panel.lines[2].y, panel.lines[3].y);
+  EXPECT_EQ(panel.lines[3].x, kClueColumn);
+  EXPECT_EQ(panel.lines[4].y, panel.lines[3].y + 100);
+  EXPECT_EQ(panel.lines[5].y, panel.lines[4].y + 148);  // the gap between clues
+  // An empty clue keeps its own numbered line.
+  EXPECT_EQ(panel.lines[12].y, panel.lines[11].y + 148);
+  EXPECT_EQ(panel.height, panel.lines[12].y + 400);
+}
+
+TEST(Browsing, ArrowsWrapAndTheRightButtonJumpsToTheEnds) {
+  auto none = std::function<double()>{};
+  EXPECT_EQ(arrowTarget(0, 1, 1, 10, none), 10);
+  EXPECT_EQ(arrowTarget(0, 2, 5, 10, none), 1);
+  EXPECT_EQ(arrowTarget(2, 1, 10, 10, none), 1);
+  EXPECT_EQ(arrowTarget(2, 2, 3, 10, none), 10);
+  EXPECT_EQ(arrowTarget(2, 1, 3, 1, none), std::nullopt);  // one puzzle: nothing happens
+  EXPECT_EQ(arrowTarget(3, 1, 3, 10, none), std::nullopt);
+  EXPECT_EQ(arrowTarget(1, 1, 3, 10, [] { return 0.0; }), 1);
+  EXPECT_EQ(arrowTarget(1, 1, 3, 10, [] { return 0.99999; }), 10);
+}
+
+TEST(Browsing, RecentFilesKeepTheirOrderAndDropTheSixth) {
+  std::array<RecentFile, Settings::kRecentFiles> menu{};
+  for (const char* path : {"a", "b", "c"}) addRecentFile(menu, path);
+  addRecentFile(menu, "a");  // already there: not moved up
+  EXPECT_EQ(menu[0].path, "c");
+  EXPECT_EQ(menu[2].path, "a");
+  EXPECT_FALSE(menu[3].shown);
+  for (const char* path : {"d", "e", "f"}) addRecentFile(menu, path);
+  EXPECT_EQ(menu[0].path, "f");
+  EXPECT_EQ(menu[4].path, "b");  // "a" was pushed out
+  for (const auto& entry : menu) EXPECT_TRUE(entry.shown);
+}
+
+TEST(Browsing, StartsWithTheConfiguredCollectionOrTheReadymadeOne) {
+  auto exists = [](const std::string& path) { return path == "mine.txt" || path == "puzzles.txt"; };
+  EXPECT_EQ(startupCollection("mine.txt", exists), "mine.txt");
+  EXPECT_EQ(startupCollection("gone.txt", exists), "puzzles.txt");
+  EXPECT_EQ(startupCollection("", exists), "puzzles.txt");
+  EXPECT_EQ(startupCollection("gone.txt", [](const std::string&) { return false; }), std::nullopt);
+}
+
+}  // namespace
+}  // namespace combwise
