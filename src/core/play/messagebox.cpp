@@ -103,17 +103,4 @@ MessageBoxLayout arrangeMessageBox(const MessageBoxDesign& design, int textHeigh
   return layout;
 }
 
-int promptLineCount(std::string_view prompt) {
-  int lines = 1;
-  for (std::size_t i = 0; i < prompt.size(); ++i) {
-    if (prompt[i] == '\n') {
-      ++lines;
-    } else if (prompt[i] == '\r') {
-      ++lines;
-      if (i + 1 < prompt.size() && prompt[i + 1] == '\n') ++i;
-    }
-  }
-  return lines;
-}
-
 }  // namespace combwise

@@ -80,8 +80,4 @@ inline constexpr int kMessageBoxFrameAllowance = 600;
 // it, touching one another, centred as a row.
 MessageBoxLayout arrangeMessageBox(const MessageBoxDesign& design, int textHeight, int lastButtonIndex);
 
-// The number of lines a prompt shows: one more than its line breaks, where
-// CR LF, LF and a lone CR each count as one break.
-int promptLineCount(std::string_view prompt);
-
 }  // namespace combwise

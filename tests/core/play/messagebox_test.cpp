@@ -1,0 +1,112 @@
+// The message box's style keywords and its layout in twips.
+#include "core/play/messagebox.h"
+
+#include <gtest/gtest.h>
+
+namespace combwise {
+namespace {
+
+using Buttons = std::vector<MessageButton>;
+
+std::vector<int> shownIcons(const MessageStyle& style) {
+  std::vector<int> shown;
+  for (int i = 0; i < kMessageIconCount; ++i)
+    if (style.icons[i]) shown.push_back(i);
+  return shown;
+}
+
+TEST(MessageStyleTest, CaseBlanksAndOrderDoNotMatter) {
+  const MessageStyle plain = parseMessageStyle("vbquestion+vbyesno");
+  EXPECT_EQ(shownIcons(plain), std::vector<int>{0});
+  EXPECT_EQ(plain.buttons, (Buttons{{"Yes", 6}, {"No", 7}}));
+  const MessageStyle spaced = parseMessageStyle("vbQuestion + vbYesNo");
+  EXPECT_EQ(spaced.icons, plain.icons);
+  EXPECT_EQ(spaced.buttons, plain.buttons);
+
+  const MessageStyle okFirst = parseMessageStyle("vbok+vbcritical");
+  const MessageStyle iconFirst = parseMessageStyle("vbcritical+vbok");
+  EXPECT_EQ(okFirst.icons, iconFirst.icons);
+  EXPECT_EQ(okFirst.buttons, iconFirst.buttons);
+  EXPECT_TRUE(okFirst.shows(MessageIcon::Critical));
+}
+
+TEST(MessageStyleTest, WithoutAButtonKeywordTheBoxHasOneOk) {
+  for (const char* style : {"", "vbcritival+vbok", "+", "  ", "vbcritival"}) {
+    const MessageStyle parsed = parseMessageStyle(style);
+    EXPECT_TRUE(shownIcons(parsed).empty()) << style;
+    EXPECT_EQ(parsed.buttons, (Buttons{{"Ok", 1}})) << style;
+    EXPECT_EQ(parsed.lastButtonIndex(), 0);
+  }
+  const MessageStyle iconOnly = parseMessageStyle("vbtrash");
+  EXPECT_EQ(shownIcons(iconOnly), std::vector<int>{6});
+  EXPECT_EQ(iconOnly.buttons, (Buttons{{"Ok", 1}}));
+}
+
+TEST(MessageStyleTest, EveryButtonKeywordGivesItsCaptionsAndCodes) {
+  const std::vector<std::pair<const char*, Buttons>> cases = {
+      {"vbok", {{"Ok", 1}}},
+      {"vbokonly", {{"Ok", 1}}},
+      {"vbnormal", {{"Ok", 0}}},
+      {"vbokcancel", {{"Ok", 1}, {"Cancel", 2}}},
+      {"vbcancelok", {{"Ok", 1}, {"Cancel", 2}}},
+      {"vbcancel", {{"Cancel", 2}}},
+      {"vbabort+vbretry+vbignore", {{"Abort", 3}, {"Retry", 4}, {"Ignore", 5}}},
+      {"vbabortretryignore", {{"Abort", 3}, {"Retry", 4}, {"Ignore", 5}}},
+      {"vbretrycancel", {{"Retry", 4}, {"Cancel", 2}}},
+      {"vbyes+vbno", {{"Yes", 6}, {"No", 7}}},
+      {"vbyesnocancel", {{"Yes", 6}, {"No", 7}, {"Cancel", 2}}},
+      {"vbcontinuecancel", {{"Continue", 6}, {"Cancel", 2}}},
+  };
+  for (const auto& [style, buttons] : cases) EXPECT_EQ(parseMessageStyle(style).buttons, buttons) << style;
+  EXPECT_EQ(shownIcons(parseMessageStyle("vbcontinuecancel")), std::vector<int>{2});
+}
+
+TEST(MessageStyleTest, IconsAccumulateAndOnlyKeywordsShowThem) {
+  EXPECT_EQ(shownIcons(parseMessageStyle("vbquestion+vbexclamation+vbok")), (std::vector<int>{0, 1}));
+  EXPECT_EQ(shownIcons(parseMessageStyle("vbexclamation+vbinformation+vberror+vbhappy+vbprint+vblighton+vbcustom")),
+            (std::vector<int>{1, 2, 3, 5, 7, 8, 10}));
+  // Whole pieces only: a keyword inside a longer piece is not a keyword.
+  EXPECT_TRUE(shownIcons(parseMessageStyle("vbquestions+xvbhappy")).empty());
+}
+
+TEST(MessageStyleTest, ButtonsBeyondTheThirdPlaceAreDropped) {
+  EXPECT_EQ(parseMessageStyle("vbyesnocancel+vbok").buttons, (Buttons{{"Yes", 6}, {"No", 7}, {"Cancel", 2}}));
+  EXPECT_EQ(parseMessageStyle("vbok+vbyesnocancel").buttons, (Buttons{{"Ok", 1}, {"Yes", 6}, {"No", 7}}));
+  EXPECT_EQ(parseMessageStyle("vbok+vbyesnocancel").lastButtonIndex(), 2);
+}
+
+constexpr MessageBoxDesign kDesign{900, 240, 5100, 1200, 405};
+
+TEST(ArrangeMessageBoxTest, LabelButtonsAndFormFollowTheTextHeight) {
+  const MessageBoxLayout oneLine = arrangeMessageBox(kDesign, 240, 0);
+  EXPECT_EQ(oneLine.formWidth, 2 * 900 + 5100);
+  EXPECT_EQ(oneLine.labelHeight, 360);
+  EXPECT_EQ(oneLine.buttonTop, 240 + 360 + 120);
+  EXPECT_EQ(oneLine.formHeight, oneLine.buttonTop + 405 + 600);
+
+  const MessageBoxLayout fourLines = arrangeMessageBox(kDesign, 4 * 240, 0);
+  EXPECT_EQ(fourLines.labelHeight, 4 * 240 + 120);
+  EXPECT_EQ(fourLines.buttonTop - oneLine.buttonTop, 3 * 240);
+  EXPECT_EQ(fourLines.formHeight - oneLine.formHeight, 3 * 240);
+}
+
+TEST(ArrangeMessageBoxTest, ButtonsTouchAndAreCentredAsARow) {
+  for (int last = 0; last < kMessageButtonPlaces; ++last) {
+    const MessageBoxLayout layout = arrangeMessageBox(kDesign, 240, last);
+    ASSERT_EQ(layout.visibleButtons, last + 1);
+    for (int i = 1; i <= last; ++i) EXPECT_EQ(layout.buttonLefts[i], layout.buttonLefts[i - 1] + 1200);
+    const int rightMargin = layout.formWidth - (layout.buttonLefts[last] + 1200);
+    EXPECT_EQ(layout.buttonLefts[0], rightMargin) << last;
+  }
+  EXPECT_EQ(arrangeMessageBox(kDesign, 240, 1).buttonLefts[0], (6900 - 2400) / 2);
+}
+
+TEST(ArrangeMessageBoxTest, WideButtonsWidenTheForm) {
+  const MessageBoxDesign wide{900, 240, 5100, 2500, 405};
+  const MessageBoxLayout layout = arrangeMessageBox(wide, 240, 2);
+  EXPECT_EQ(layout.formWidth, 7500);
+  EXPECT_EQ(layout.buttonLefts[0], 0);
+}
+
+}  // namespace
+}  // namespace combwise

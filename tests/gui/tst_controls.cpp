@@ -1,0 +1,144 @@
+// The owner-drawn button's press and click, and the file-name dialog's
+// cancel and choice, driven without a human.
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+#include <functional>
+
+#include "gui/ui/boxcontrol.h"
+#include "gui/ui/fndialog.h"
+
+namespace combwise {
+
+class TestControls : public QObject {
+  Q_OBJECT
+
+  // Runs act on the file dialog once it is up; returns what ShowDialog gave.
+  static QString driveDialog(FNDialog& dialog, const QString& mode, std::function<void(QFileDialog*)> act) {
+    QTimer::singleShot(0, [act] {
+      QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
+      auto* fileDialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      QVERIFY(fileDialog);
+      act(fileDialog);
+      if (fileDialog->isVisible()) fileDialog->reject();
+    });
+    return dialog.ShowDialog(mode);
+  }
+
+ private slots:
+  void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+  void pressAndClickCarryTheMouseButton() {
+    BoxControl button("Next");
+    button.resize(80, 28);
+    button.show();
+    QSignalSpy presses(&button, &BoxControl::press);
+    QSignalSpy clicks(&button, &BoxControl::click);
+    QTest::mousePress(&button, Qt::LeftButton);
+    QCOMPARE(presses.count(), 1);
+    QCOMPARE(clicks.count(), 0);  // held: the press alone
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QTest::mouseClick(&button, Qt::RightButton);
+    QCOMPARE(presses.count(), 2);
+    QCOMPARE(clicks.count(), 2);
+    QCOMPARE(presses.at(1).at(0).toInt(), 2);
+    QCOMPARE(clicks.at(0).at(0).toInt(), 1);
+    QCOMPARE(clicks.at(1).at(0).toInt(), 2);
+  }
+
+  void aReleaseOutsideIsNoClick() {
+    BoxControl button("Undo");
+    button.resize(80, 28);
+    button.show();
+    QSignalSpy presses(&button, &BoxControl::press);
+    QSignalSpy clicks(&button, &BoxControl::click);
+    QTest::mousePress(&button, Qt::RightButton);
+    QTest::mouseRelease(&button, Qt::RightButton, {}, QPoint(120, 14));
+    QCOMPARE(presses.count(), 1);
+    QCOMPARE(clicks.count(), 0);
+  }
+
+  void spaceAndEnterPressAndClickWithTheLeftButton() {
+    BoxControl button("Verify");
+    button.resize(80, 28);
+    button.show();
+    button.setFocus();
+    QSignalSpy presses(&button, &BoxControl::press);
+    QSignalSpy clicks(&button, &BoxControl::click);
+    QTest::keyPress(&button, Qt::Key_Space);
+    QCOMPARE(presses.count(), 1);
+    QCOMPARE(clicks.count(), 0);
+    QTest::keyRelease(&button, Qt::Key_Space);
+    QTest::keyClick(&button, Qt::Key_Return);
+    QCOMPARE(clicks.count(), 2);
+    QCOMPARE(clicks.at(1).at(0).toInt(), 1);
+    QTest::keyClick(&button, Qt::Key_A);
+    QCOMPARE(clicks.count(), 2);
+  }
+
+  void cancellingReturnsNothingAndKeepsTheWorkingFolder_data() {
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<bool>("trailingSeparator");
+    QTest::newRow("open") << "OPEN" << false;
+    QTest::newRow("save in lower case") << "save" << true;
+  }
+
+  void cancellingReturnsNothingAndKeepsTheWorkingFolder() {
+    QFETCH(QString, mode);
+    QFETCH(bool, trailingSeparator);
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    const QString before = QDir::currentPath();
+    FNDialog dialog;
+    dialog.setTitle("Load Puzzle file");
+    dialog.setDefaultDir(folder.path() + (trailingSeparator ? "/" : ""));
+    bool saving = false;
+    QString shownFolder;
+    const QString chosen = driveDialog(dialog, mode, [&](QFileDialog* fileDialog) {
+      saving = fileDialog->acceptMode() == QFileDialog::AcceptSave;
+      shownFolder = fileDialog->directory().absolutePath();
+      QCOMPARE(fileDialog->windowTitle(), QString("Load Puzzle file"));
+      QCOMPARE(fileDialog->nameFilters(), QStringList{"Combwise Files (*.txt)"});
+      QDir::setCurrent(QDir::tempPath());  // as a dialog may do
+      fileDialog->reject();
+    });
+    QVERIFY(chosen.isEmpty());
+    QCOMPARE(saving, mode.toUpper() == "SAVE");
+    QCOMPARE(shownFolder, QDir(folder.path()).absolutePath());
+    QCOMPARE(QDir::currentPath(), before);
+  }
+
+  void anAcceptedChoiceIsTheFullPath() {
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    QFile existing(folder.filePath("mine.txt"));
+    QVERIFY(existing.open(QIODevice::WriteOnly));
+    existing.close();
+    FNDialog dialog;
+    dialog.setDefaultDir(folder.path());
+    const QString opened = driveDialog(dialog, "open", [&](QFileDialog* fileDialog) {
+      fileDialog->selectFile("mine.txt");
+      static_cast<QDialog*>(fileDialog)->accept();
+    });
+    QCOMPARE(opened, QFileInfo(existing).absoluteFilePath());
+
+    // A typed name without an extension gets the pattern's.
+    const QString saved = driveDialog(dialog, "SAVE", [&](QFileDialog* fileDialog) {
+      auto* name = fileDialog->findChild<QLineEdit*>("fileNameEdit");
+      QVERIFY(name);
+      name->setText("new");
+      static_cast<QDialog*>(fileDialog)->accept();
+    });
+    QCOMPARE(saved, QDir(folder.path()).absoluteFilePath("new.txt"));
+  }
+};
+
+}  // namespace combwise
+
+QTEST_MAIN(combwise::TestControls)
+#include "tst_controls.moc"

@@ -1,0 +1,156 @@
+// The message box driven like a user: buttons released with the mouse,
+// Enter on a focused button, keys that must not close it, and its layout.
+#include <QLabel>
+#include <QTimer>
+#include <QtTest>
+#include <functional>
+
+#include "gui/ui/boxcontrol.h"
+#include "gui/ui/msgform.h"
+
+namespace combwise {
+
+class TestMsgForm : public QObject {
+  Q_OBJECT
+
+  // Shows the box modally and, once it is up, acts on it as a user would.
+  static int answer(MsgForm& form, const QString& prompt, const QString& style, std::function<void()> act) {
+    QTimer::singleShot(0, &form, [&form, act] {
+      QVERIFY(QTest::qWaitForWindowActive(&form));
+      act();
+      // A box still open after the act would block the test for ever.
+      if (form.isVisible()) QTest::mouseClick(form.button(0), Qt::LeftButton);
+    });
+    return form.ShowMessage(prompt, style);
+  }
+
+ private slots:
+  void aReleasedButtonGivesItsCode_data() {
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("code");
+    QTest::newRow("yes") << "vbquestion+vbyesno" << 0 << 6;
+    QTest::newRow("no") << "vbQuestion + vbYesNo" << 1 << 7;
+    QTest::newRow("no button keyword") << "vbcritival" << 0 << 1;
+    QTest::newRow("normal is zero") << "vbnormal" << 0 << 0;
+    QTest::newRow("third place") << "vbyesnocancel" << 2 << 2;
+    QTest::newRow("continue is yes") << "vbcontinuecancel" << 0 << 6;
+  }
+
+  void aReleasedButtonGivesItsCode() {
+    QFETCH(QString, style);
+    QFETCH(int, index);
+    QFETCH(int, code);
+    MsgForm form;
+    const int result =
+        answer(form, "Reset puzzle?", style, [&] { QTest::mouseClick(form.button(index), Qt::LeftButton); });
+    QCOMPARE(result, code);
+    QCOMPARE(form.result(), code);
+    QVERIFY(!form.isVisible());
+  }
+
+  void aReleaseOutsideTheButtonDoesNotClose() {
+    MsgForm form;
+    bool stillOpen = false;
+    const int result = answer(form, "Exit?", "vbyesno", [&] {
+      BoxControl* no = form.button(1);
+      QTest::mousePress(no, Qt::LeftButton);
+      QTest::mouseRelease(no, Qt::LeftButton, {}, QPoint(no->width() + 30, no->height() / 2));
+      stillOpen = form.isVisible();
+      QTest::mouseClick(no, Qt::LeftButton);
+    });
+    QVERIFY(stillOpen);
+    QCOMPARE(result, 7);
+  }
+
+  void enterOnAFocusedButtonChoosesIt() {
+    MsgForm form;
+    const int result = answer(form, "Print current clues to printer?", "vbquestion+vbyesno", [&] {
+      QCOMPARE(QApplication::focusWidget(), form.button(0));
+      form.button(1)->setFocus();
+      QTest::keyClick(form.button(1), Qt::Key_Return);
+    });
+    QCOMPARE(result, 7);
+  }
+
+  void otherKeysAndTheCloseBoxLeaveTheBoxOpen() {
+    MsgForm form;
+    bool stillOpen = false;
+    const int result = answer(form, "Reset puzzle?", "vbyesno", [&] {
+      for (Qt::Key key : {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Y, Qt::Key_N})
+        QTest::keyClick(QApplication::focusWidget(), key);
+      QTest::keyClick(&form, Qt::Key_Escape);
+      form.close();
+      stillOpen = form.isVisible();
+      QTest::mouseClick(form.button(1), Qt::LeftButton);
+    });
+    QVERIFY(stillOpen);
+    QCOMPARE(result, 7);
+  }
+
+  void twoButtonsTouchAndAreCentred() {
+    MsgForm form;
+    form.prepareMessage("Exit?", "vbquestion+vbyesno");
+    const QRect yes = form.button(0)->geometry();
+    const QRect no = form.button(1)->geometry();
+    QVERIFY(!form.button(0)->isHidden() && !form.button(1)->isHidden());
+    QVERIFY(form.button(2)->isHidden());
+    QCOMPARE(form.button(0)->Caption(), QString("Yes"));
+    QCOMPARE(form.button(1)->Caption(), QString("No"));
+    QCOMPARE(no.left(), yes.right() + 1);
+    QCOMPARE(no.top(), yes.top());
+    const int leftMargin = yes.left();
+    const int rightMargin = form.width() - no.right() - 1;
+    QVERIFY2(qAbs(leftMargin - rightMargin) <= 1, qPrintable(QString("%1 vs %2").arg(leftMargin).arg(rightMargin)));
+    QVERIFY(yes.top() > form.label()->geometry().bottom());
+    QVERIFY(yes.bottom() < form.height());
+  }
+
+  void fourLinesMakeTheLabelFourLinesHigh() {
+    MsgForm form;
+    form.prepareMessage("One line", "vbok");
+    const int oneLabel = form.label()->height();
+    const int oneTop = form.button(0)->y();
+    const int oneForm = form.height();
+    form.prepareMessage("First\r\nSecond\nThird\rFourth", "vbok");
+    const QLabel* label = form.label();
+    QCOMPARE(label->text().count('\n'), 3);
+    // The label is its lines' height + 120 twips; buttons and form move down
+    // by the three extra lines.
+    const double extra = 120 / form.twipsPerPixel();
+    const double lineHeight = (label->height() - oneLabel) / 3.0;
+    const int lineSpacing = QFontMetrics(label->font()).lineSpacing();
+    QVERIFY2(lineHeight >= lineSpacing - 0.5 && lineHeight <= lineSpacing + 2, qPrintable(QString::number(lineHeight)));
+    QVERIFY(qAbs(oneLabel - (lineHeight + extra)) <= 1);
+    QVERIFY(qAbs(label->height() - (4 * lineHeight + extra)) <= 1);
+    QCOMPARE(form.button(0)->y() - oneTop, label->height() - oneLabel);
+    QCOMPARE(form.height() - oneForm, label->height() - oneLabel);
+  }
+
+  void iconsAccumulateAndEachCallStartsAfresh() {
+    MsgForm form;
+    form.prepareMessage("Two icons", "vbquestion+vbexclamation+vbok");
+    for (int i = 0; i < kMessageIconCount; ++i) QCOMPARE(!form.icon(i)->isHidden(), i <= 1);
+    QVERIFY(!form.icon(1)->pixmap().isNull());
+    form.prepareMessage("No icon", "vbcritival+vbok");
+    for (int i = 0; i < kMessageIconCount; ++i) QVERIFY(form.icon(i)->isHidden());
+    QVERIFY(form.button(1)->isHidden());
+  }
+
+  void aBlackButtonColourFallsBackToTheScheme() {
+    MsgForm form;
+    QList<QColor> table(14, QColor(0, 0, 0));
+    table[4] = QColor(200, 210, 220);
+    form.setSchemeTable(table);
+    form.setColours(Qt::black, QColor(250, 240, 230), QColor(20, 20, 80));
+    form.prepareMessage("Coloured", "vbok");
+    QCOMPARE(form.button(0)->BackColor(), QColor(200, 210, 220));
+    QCOMPARE(form.label()->palette().color(QPalette::Window), QColor(250, 240, 230));
+    QCOMPARE(form.label()->palette().color(QPalette::WindowText), QColor(20, 20, 80));
+  }
+};
+
+}  // namespace combwise
+
+QTEST_MAIN(combwise::TestMsgForm)
+#include "tst_msgform.moc"
