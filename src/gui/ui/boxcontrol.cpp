@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -89,18 +90,28 @@ void BoxControl::paintEvent(QPaintEvent*) {
   const QRect face = rect();
   const bool enabled = isEnabled();
   const QColor back = m_backColor.isValid() ? m_backColor : palette().color(QPalette::Button);
-  const QColor light = back.lightness() > 200 ? Qt::white : back.lighter(150);
-  const QColor dark = back.lightness() < 40 ? QColor(110, 110, 110) : back.darker(170);
+  const bool darkFace = back.lightness() < 60;
+  const QColor rim = darkFace ? back.lighter(220) : back.darker(165);
+  const QColor highlight = darkFace ? back.lighter(160) : back.lighter(125);
+  const QColor shadow = back.darker(125);
 
-  painter.fillRect(face, m_down ? back.darker(110) : back);
-
-  // A bevel of one pixel: raised at rest, sunk while held.
-  painter.setPen(m_down ? dark : light);
-  painter.drawLine(face.topLeft(), face.topRight());
-  painter.drawLine(face.topLeft(), face.bottomLeft());
-  painter.setPen(m_down ? light : dark);
-  painter.drawLine(face.bottomLeft(), face.bottomRight());
-  painter.drawLine(face.topRight(), face.bottomRight());
+  // A rim, a soft gradient and a one-pixel bevel: raised at rest, sunk while held.
+  QLinearGradient fill(0, 0, 0, face.height());
+  fill.setColorAt(0, m_down ? back.darker(112) : back.lighter(106));
+  fill.setColorAt(1, m_down ? back.darker(104) : back.darker(106));
+  painter.fillRect(face, fill);
+  const QRect inner = face.adjusted(1, 1, -1, -1);
+  painter.setPen(m_down ? shadow : highlight);
+  painter.drawLine(inner.topLeft(), inner.topRight());
+  painter.drawLine(inner.topLeft(), inner.bottomLeft());
+  if (!m_down) {
+    painter.setPen(shadow);
+    painter.drawLine(inner.bottomLeft(), inner.bottomRight());
+    painter.drawLine(inner.topRight(), inner.bottomRight());
+  }
+  painter.setPen(rim);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(face.adjusted(0, 0, -1, -1));
 
   // The contents move one pixel down and right while the button is held.
   QRect content = face.adjusted(kPadding / 2, 2, -kPadding / 2, -2);
