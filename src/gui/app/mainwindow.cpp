@@ -1,34 +1,298 @@
-// The main window's construction and menu wiring.
+// The main window's construction: its controls, their names and tips, and
+// the menus with their shortcuts.
 #include "gui/app/mainwindow.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "core/play/entry.h"
+#include "gui/app/clicklabel.h"
+#include "gui/play/boardpicture.h"
+#include "gui/play/cluepicture.h"
+#include "gui/ui/boxcontrol.h"
+#include "gui/ui/dialogservices.h"
 
 namespace combwise {
 
-MainWindow::MainWindow(std::string programFolder, QWidget* parent)
-    : QMainWindow(parent), m_programFolder(std::move(programFolder)) {
+MainWindow::MainWindow(std::string programFolder, WindowServices services, QWidget* parent)
+    : QMainWindow(parent),
+      m_programFolder(std::move(programFolder)),
+      m_errorLog(m_programFolder),
+      m_dictionary(&m_errorLog),
+      m_meanings(&m_errorLog),
+      m_maker(m_board, m_puzzle, m_dictionary, m_meanings) {
   setObjectName("Form1");
   setWindowTitle("Combwise");
-  resize(1000, 700);
-
-  auto* board = new QLabel(this);
-  board->setObjectName("Picture1");
-  board->setAlignment(Qt::AlignCenter);
-  setCentralWidget(board);
-
+  if (services.prompter) {
+    m_prompter = services.prompter;
+  } else {
+    m_ownPrompter = std::make_unique<WindowPrompter>(this);
+    m_prompter = m_ownPrompter.get();
+  }
+  if (services.files) {
+    m_files = services.files;
+  } else {
+    m_ownFiles = std::make_unique<DialogFileChooser>(this);
+    m_files = m_ownFiles.get();
+  }
+  buildControls();
   buildMenus();
-  statusBar()->showMessage("Ready ...");
+  startUp();
+}
+
+MainWindow::~MainWindow() = default;
+
+BoxControl* MainWindow::addButton(const QString& name, const QString& caption, const QString& tip) {
+  auto* button = new BoxControl(caption, this);
+  button->setObjectName(name);
+  button->setToolTipText1(tip);
+  button->setFocusPolicy(Qt::NoFocus);  // the keys belong to the board
+  return button;
+}
+
+void MainWindow::buildControls() {
+  auto* central = new QWidget(this);
+  auto* outer = new QVBoxLayout(central);
+  outer->setContentsMargins(8, 6, 8, 4);
+  outer->setSpacing(6);
+
+  // The command row above the board.
+  auto* commands = new QHBoxLayout;
+  commands->setSpacing(4);
+  BoxControl* load = addButton("cmdload", "Open...", "Load Puzzle file");
+  connect(load, &BoxControl::click, this, [this](int) { loadPuzzleFile(); });
+  commands->addWidget(load);
+  const QString arrowCaptions[3] = {QStringLiteral("\u25C0"), QStringLiteral("?"), QStringLiteral("\u25B6")};
+  const QString arrowTips[3] = {"Previous puzzle; rightclick for first", "Random puzzle",
+                                "Next puzzle; rightclick for last"};
+  for (int k = 0; k < 3; ++k) {
+    BoxControl* arrow = addButton(QString("cmdarrow%1").arg(k), arrowCaptions[k], arrowTips[k]);
+    arrow->setMinimumWidth(34);
+    connect(arrow, &BoxControl::click, this, [this, k](int button) { arrowClicked(k, button); });
+    commands->addWidget(arrow);
+  }
+  m_counter = new QLabel(this);
+  m_counter->setObjectName("lblcounter");
+  m_counter->setMinimumWidth(110);
+  m_counter->setAlignment(Qt::AlignCenter);
+  commands->addWidget(m_counter);
+  commands->addSpacing(10);
+
+  auto* sizeCaption = new QLabel("Size", this);
+  commands->addWidget(sizeCaption);
+  m_sizeLabel = new ClickLabel("7", this);
+  m_sizeLabel->setObjectName("lblsize");
+  m_sizeLabel->setToolTip("Puzzle size; click to change");
+  m_sizeLabel->setFrameShape(QFrame::StyledPanel);
+  m_sizeLabel->setAlignment(Qt::AlignCenter);
+  m_sizeLabel->setMinimumWidth(34);
+  m_sizeLabel->setCursor(Qt::PointingHandCursor);
+  connect(m_sizeLabel, &ClickLabel::clicked, this, &MainWindow::sizeLabelClicked);
+  commands->addWidget(m_sizeLabel);
+  m_createButton = addButton("cmdcreate", "Create", "Create a new puzzle of the size shown");
+  connect(m_createButton, &BoxControl::click, this, [this](int) { createPuzzle(); });
+  commands->addWidget(m_createButton);
+  m_cancelButton = addButton("cmdcancel", "Cancel", "Stop creating the puzzle (Escape)");
+  connect(m_cancelButton, &BoxControl::click, this, [this](int) { cancelCreation(); });
+  m_cancelButton->hide();
+  commands->addWidget(m_cancelButton);
+  BoxControl* dictionary = addButton("cmdloaddict", "Dictionary...", "Load a Dictionary");
+  connect(dictionary, &BoxControl::click, this, [this](int) { loadDictionaryCommand(); });
+  commands->addWidget(dictionary);
+  commands->addStretch(1);
+
+  BoxControl* undo = addButton("cmdundo", "Undo", "Undo the last letter; rightclick to reset the puzzle");
+  connect(undo, &BoxControl::click, this, &MainWindow::undoClicked);
+  commands->addWidget(undo);
+  BoxControl* verify = addButton("cmdverify", "Verify", "Hold down to cross the unfinished hexagons");
+  connect(verify, &BoxControl::press, this, [this](int) { verifyPressed(); });
+  connect(verify, &BoxControl::click, this, [this](int) { verifyReleased(); });
+  commands->addWidget(verify);
+  BoxControl* solution = addButton("cmdshowsol", "Solution", "Hold down to see the solution");
+  connect(solution, &BoxControl::press, this, [this](int) { showSolutionPressed(); });
+  connect(solution, &BoxControl::click, this, [this](int) { showSolutionReleased(); });
+  commands->addWidget(solution);
+  commands->addSpacing(10);
+  const QString zoomCaptions[3] = {QStringLiteral("\u2212"), QStringLiteral("+"), QStringLiteral("1:1")};
+  const QString zoomTips[3] = {"Zoom out", "Zoom in", "Reset zoom"};
+  for (int i = 0; i < 3; ++i) {
+    BoxControl* zoom = addButton(QString("cmdzoom%1").arg(i), zoomCaptions[i], zoomTips[i]);
+    zoom->setMinimumWidth(34);
+    connect(zoom, &BoxControl::click, this, [this, i](int) { zoomClicked(i); });
+    commands->addWidget(zoom);
+  }
+  outer->addLayout(commands);
+
+  // The board frame and the clue panel side by side.
+  auto* body = new QHBoxLayout;
+  body->setSpacing(8);
+  m_boardFrame = new QFrame(this);
+  m_boardFrame->setObjectName("Picture5");
+  m_boardFrame->setFrameShape(QFrame::StyledPanel);
+  m_boardFrame->setMinimumSize(560, 480);
+  m_boardFrame->setAutoFillBackground(true);
+  m_picture = new BoardPicture(m_board, m_puzzle, m_layout, m_boardFrame);
+  m_picture->move(4, 4);
+  connect(m_picture, &BoardPicture::hovered, this, [this](double x, double y) {
+    if (!createEnabled()) {
+      m_puzzle.SelRow = m_puzzle.SelCol = 0;
+      return;
+    }
+    const HoverResult hover = hoverAt(m_board, m_layout, m_puzzle, x, y);
+    if (hover.kind == HoverResult::Kind::Unchanged) return;
+    m_picture->hideMarker();
+    setStatus(QString::fromStdString(hover.status));
+    if (hover.kind == HoverResult::Kind::Selected) {
+      m_picture->showMarkerAt(m_puzzle.SelRow, m_puzzle.SelCol);
+      m_picture->setFocus();
+    }
+  });
+  connect(m_picture, &BoardPicture::typed, this, [this](int code) {
+    if (m_puzzle.SelRow == 0 || !createEnabled()) return;
+    const auto entry = entryForKey(code);
+    if (!entry) return;
+    enterAtSelection(m_puzzle, *entry);
+    m_picture->DrawBoard(LetterMode::Play);
+  });
+  connect(m_picture, &BoardPicture::navigated, this, [this](int keyCode) {
+    const auto moved = MoveSelection(m_board, m_puzzle, directionForKey(keyCode));
+    if (moved) m_picture->showMarkerAt(moved->row, moved->col);
+  });
+  body->addWidget(m_boardFrame, 3);
+
+  m_clueFrame = new QGroupBox("Clues", this);
+  m_clueFrame->setObjectName("Frame1");
+  m_clueFrame->setMinimumWidth(300);
+  auto* clueGrid = new QGridLayout(m_clueFrame);
+  clueGrid->setContentsMargins(6, 6, 6, 6);
+  m_clueViewport = new ClueViewport(m_clueFrame);
+  m_clues = new CluePicture(m_puzzle, m_clueViewport);
+  m_clueViewport->setPicture(m_clues);
+  clueGrid->addWidget(m_clueViewport, 0, 0, 1, 2);
+  m_insideWords = new QListWidget(m_clueFrame);
+  m_insideWords->setObjectName("List2a");
+  m_outsideWords = new QListWidget(m_clueFrame);
+  m_outsideWords->setObjectName("List2b");
+  for (QListWidget* list : {m_insideWords, m_outsideWords}) {
+    list->setFocusPolicy(Qt::NoFocus);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->hide();
+  }
+  clueGrid->addWidget(m_insideWords, 0, 0);
+  clueGrid->addWidget(m_outsideWords, 0, 1);
+  body->addWidget(m_clueFrame, 2);
+  outer->addLayout(body, 1);
+  setCentralWidget(central);
+
+  // The status line: the status text, then the collection and the dictionary.
+  m_status = new QLabel(this);
+  m_status->setObjectName("Statx");
+  m_status->setMinimumWidth(260);
+  statusBar()->addWidget(m_status, 1);
+  m_fileLabel = new QLabel(this);
+  m_fileLabel->setObjectName("lblfile");
+  statusBar()->addPermanentWidget(m_fileLabel);
+  m_dictionaryLabel = new QLabel(this);
+  m_dictionaryLabel->setObjectName("lbldict");
+  statusBar()->addPermanentWidget(m_dictionaryLabel);
+
+  m_startTimer = new QTimer(this);
+  m_startTimer->setObjectName("Timer1");
+  m_startTimer->setSingleShot(true);
+  m_startTimer->setInterval(0);
+  connect(m_startTimer, &QTimer::timeout, this, &MainWindow::startTimerTick);
+  resize(1180, 760);
 }
 
 void MainWindow::buildMenus() {
-  QMenu* file = menuBar()->addMenu("&File");
-  file->setObjectName("mnufile");
-  QAction* exit = file->addAction("E&xit");
-  exit->setObjectName("cmdexitx");
-  connect(exit, &QAction::triggered, this, &QWidget::close);
+  m_fileMenu = menuBar()->addMenu("&File");
+  m_fileMenu->setObjectName("mnufile");
+  auto add = [this](QMenu* menu, const QString& name, const QString& text, auto slot,
+                    const QKeySequence& shortcut = {}) {
+    QAction* action = menu->addAction(text);
+    action->setObjectName(name);
+    if (!shortcut.isEmpty()) action->setShortcut(shortcut);
+    connect(action, &QAction::triggered, this, slot);
+    return action;
+  };
+  add(m_fileMenu, "mnuloaddict", "Load a &Dictionary...", &MainWindow::loadDictionaryCommand);
+  add(m_fileMenu, "mnuloadpuzfile", "&Load Puzzle file...", &MainWindow::loadPuzzleFile, QKeySequence::Open);
+  QAction* options = m_fileMenu->addAction("&Edit Options...");
+  options->setObjectName("mnuoptions");
+  add(m_fileMenu, "mnusaveopts", "Save &Options", &MainWindow::saveOptions);
+  QAction* print = m_fileMenu->addAction("&Print Puzzle File...");
+  print->setObjectName("mnuprint");
+  print->setShortcut(QKeySequence::Print);
+  m_fileMenu->addSeparator();
+  for (int i = 0; i < Settings::kRecentFiles; ++i) {
+    m_recentActions[i] = m_fileMenu->addAction(QString());
+    m_recentActions[i]->setObjectName(QString("mnuoldfiles%1").arg(i));
+    m_recentActions[i]->setVisible(false);
+    connect(m_recentActions[i], &QAction::triggered, this, [this, i] { recentFileChosen(i); });
+  }
+  m_recentSeparator = m_fileMenu->addSeparator();
+  m_recentSeparator->setObjectName("mnuoldfiles5");
+  m_recentSeparator->setVisible(false);
+  add(m_fileMenu, "mnuhelp", "&Help", &MainWindow::showHelp, QKeySequence::HelpContents);
+  add(m_fileMenu, "mnuabout", "&About", &MainWindow::showAbout);
+  add(m_fileMenu, "cmdexitx", "E&xit", &MainWindow::exitCommand, QKeySequence::Quit);
+
+  m_puzzleMenu = menuBar()->addMenu("&Puzzle");
+  m_puzzleMenu->setObjectName("mnupuzzle");
+  m_createAction = add(m_puzzleMenu, "mnucreate", "&Create", &MainWindow::createPuzzle, QKeySequence::New);
+  add(m_puzzleMenu, "mnusave", "&Save...", &MainWindow::savePuzzle, QKeySequence::Save);
+  add(m_puzzleMenu, "mnureset", "&Reset", &MainWindow::resetPuzzle);
+  m_puzzleMenu->addSeparator();
+  add(m_puzzleMenu, "mnuprevious", "&Previous puzzle", [this] { arrowClicked(0, 1); }, QKeySequence(Qt::Key_PageUp));
+  add(m_puzzleMenu, "mnunext", "&Next puzzle", [this] { arrowClicked(2, 1); }, QKeySequence(Qt::Key_PageDown));
+  add(m_puzzleMenu, "mnurandom", "Ra&ndom puzzle", [this] { arrowClicked(1, 1); });
+  add(m_puzzleMenu, "mnuundo", "&Undo", [this] { undoClicked(1); }, QKeySequence::Undo);
+  m_puzzleMenu->addSeparator();
+  add(m_puzzleMenu, "mnuzoomin", "Zoom &in", [this] { zoomClicked(1); }, QKeySequence::ZoomIn);
+  add(m_puzzleMenu, "mnuzoomout", "Zoom &out", [this] { zoomClicked(0); }, QKeySequence::ZoomOut);
+  add(m_puzzleMenu, "mnuzoomreset", "Reset &zoom", [this] { zoomClicked(2); }, QKeySequence(Qt::CTRL | Qt::Key_0));
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  // Escape stops a puzzle being made; at other times it belongs to the board.
+  if (event->key() == Qt::Key_Escape && m_creating) {
+    cancelCreation();
+    event->accept();
+    return;
+  }
+  QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  // Closing by the window frame ends the program without saving settings.
+  if (m_creating) cancelCreation();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window != this && window->isVisible()) window->close();
+  }
+  event->accept();
+}
+
+QString MainWindow::statusText() const { return m_status->text(); }
+
+void MainWindow::setStatus(const QString& text) { m_status->setText(text); }
+
+bool MainWindow::createEnabled() const { return m_createAction->isEnabled(); }
+
+void MainWindow::setCreateEnabled(bool enabled) {
+  m_createAction->setEnabled(enabled);
+  m_createButton->setEnabled(enabled);
 }
 
 }  // namespace combwise
