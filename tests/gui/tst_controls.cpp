@@ -1,17 +1,21 @@
-// The owner-drawn button's press and click, and the file-name dialog's
-// cancel and choice, driven without a human.
+// The owner-drawn button's press and click, the file-name dialog's cancel
+// and choice, driven without a human, and the help and About windows.
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QtTest>
 #include <functional>
 
+#include "gui/ui/aboutform.h"
 #include "gui/ui/boxcontrol.h"
 #include "gui/ui/fndialog.h"
+#include "gui/ui/helpform.h"
 
 namespace combwise {
 
@@ -135,6 +139,32 @@ class TestControls : public QObject {
       static_cast<QDialog*>(fileDialog)->accept();
     });
     QCOMPARE(saved, QDir(folder.path()).absoluteFilePath("new.txt"));
+  }
+
+  void theHelpWindowShowsThePageOrSaysItIsMissing() {
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    QFile page(folder.filePath("combwise.htm"));
+    QVERIFY(page.open(QIODevice::WriteOnly));
+    page.write("<html><body><h1>Combwise</h1><p><a href=\"#play\">How to play</a></p></body></html>");
+    page.close();
+    Form4 help(folder.path());
+    QVERIFY(help.browser()->toPlainText().contains("How to play"));
+    QVERIFY(help.browser()->openExternalLinks());
+
+    Form4 missing(folder.filePath("nowhere"));
+    QVERIFY(!missing.loadPage());
+    QVERIFY(missing.browser()->toPlainText().contains("could not be found"));
+    QVERIFY(missing.browser()->toPlainText().contains(missing.pagePath()));
+  }
+
+  void theAboutBoxNamesTheVersion() {
+    AboutForm about;
+    const QList<QLabel*> labels = about.findChildren<QLabel*>();
+    const bool hasVersion =
+        std::any_of(labels.begin(), labels.end(), [](QLabel* label) { return label->text() == "Version 1.0"; });
+    QVERIFY(hasVersion);
+    QVERIFY(AboutForm::description().startsWith("Combwise: hexagonal crossword puzzles"));
   }
 };
 

@@ -1,11 +1,13 @@
 // The message box driven like a user: buttons released with the mouse,
 // Enter on a focused button, keys that must not close it, and its layout.
 #include <QLabel>
+#include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
 #include <functional>
 
 #include "gui/ui/boxcontrol.h"
+#include "gui/ui/dialogservices.h"
 #include "gui/ui/msgform.h"
 
 namespace combwise {
@@ -147,6 +149,30 @@ class TestMsgForm : public QObject {
     QCOMPARE(form.button(0)->BackColor(), QColor(200, 210, 220));
     QCOMPARE(form.label()->palette().color(QPalette::Window), QColor(250, 240, 230));
     QCOMPARE(form.label()->palette().color(QPalette::WindowText), QColor(20, 20, 80));
+  }
+
+  void thePrompterKeepsOneBoxAndAsksPlainQuestions() {
+    QWidget window;
+    WindowPrompter prompter(&window);
+    MsgForm* box = &prompter.messageForm();
+    QTimer::singleShot(0, box, [box] {
+      QVERIFY(QTest::qWaitForWindowActive(box));
+      QTest::mouseClick(box->button(1), Qt::LeftButton);
+    });
+    QCOMPARE(prompter.ShowMessage("Exit?", "vbQuestion + vbYesNo"), 7);
+    QCOMPARE(&prompter.messageForm(), box);
+    QCOMPARE(box->windowTitle(), QString("Combwise Message"));
+
+    // The plain Yes/No question keeps the file when Enter is pressed.
+    QString title;
+    QTimer::singleShot(0, [&title] {
+      QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
+      auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      title = question->windowTitle();
+      QTest::keyClick(question, Qt::Key_Return);
+    });
+    QVERIFY(!prompter.confirm("Overwrite clues.txt?"));
+    QCOMPARE(title, QString("Combwise"));
   }
 };
 
