@@ -30,6 +30,13 @@ ParsedArgs parseArgs(const std::vector<std::string>& args, const std::set<std::s
   ParsedArgs parsed;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& arg = args[i];
+    const auto fail = [&parsed](std::string message) {
+      if (parsed.error.empty()) parsed.error = std::move(message);
+    };
+    if (arg.empty()) {
+      fail("an empty argument names no file");
+      continue;
+    }
     if (arg.size() < 2 || arg.rfind("--", 0) != 0) {
       parsed.positional.push_back(arg);
       continue;
@@ -37,14 +44,21 @@ ParsedArgs parseArgs(const std::vector<std::string>& args, const std::set<std::s
     const auto equals = arg.find('=');
     const std::string name = arg.substr(0, equals);
     if (valueOptions.count(name)) {
+      std::optional<std::string> value;
       if (equals != std::string::npos) {
-        parsed.values[name] = arg.substr(equals + 1);
+        value = arg.substr(equals + 1);
       } else if (i + 1 < args.size()) {
-        parsed.values[name] = args[++i];
-      } else if (parsed.error.empty()) {
-        parsed.error = name + " needs a value";
+        value = args[++i];
+      }
+      if (!value || value->empty()) {
+        fail(name + " needs a value");
+      } else if (parsed.values.count(name)) {
+        fail(name + " is given more than once");
+      } else {
+        parsed.values[name] = *value;
       }
     } else if (flagOptions.count(name) && equals == std::string::npos) {
+      if (parsed.flags.count(name)) fail(name + " is given more than once");
       parsed.flags.insert(name);
     } else if (parsed.error.empty()) {
       parsed.error = "unknown option '" + arg + "'";

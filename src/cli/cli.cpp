@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <map>
+#include <new>
 #include <optional>
 #include <ostream>
 
@@ -57,14 +58,22 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
           << "\n";
       return 0;
     }
-    if (arg == "--home") {
-      if (at + 1 >= args.size()) {
+    if (arg == "--home" || arg.rfind("--home=", 0) == 0) {
+      std::optional<std::string> folder;
+      if (arg != "--home") {
+        folder = arg.substr(7);
+      } else if (at + 1 < args.size()) {
+        folder = args[++at];
+      }
+      if (!folder || folder->empty()) {
         err << "combwise-cli: --home needs a folder\n";
         return 2;
       }
-      home = args[++at];
-    } else if (arg.rfind("--home=", 0) == 0) {
-      home = arg.substr(7);
+      if (home) {
+        err << "combwise-cli: --home is given more than once\n";
+        return 2;
+      }
+      home = folder;
     } else {
       break;
     }
@@ -79,7 +88,14 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
     return 2;
   }
   Context context{programFolder(home), out, err, progressOnTerminal};
-  return command->second(context, Arguments(args.begin() + static_cast<std::ptrdiff_t>(at) + 1, args.end()));
+  // Running out of memory is an error like any other: appends are whole
+  // lines, so nothing written is lost.
+  try {
+    return command->second(context, Arguments(args.begin() + static_cast<std::ptrdiff_t>(at) + 1, args.end()));
+  } catch (const std::bad_alloc&) {
+    err << "combwise-cli " << args[at] << ": there is not enough memory\n";
+    return 1;
+  }
 }
 
 }  // namespace combwise::cli

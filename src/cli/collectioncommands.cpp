@@ -1,4 +1,5 @@
 // The commands that work on whole collections: randomize and check.
+#include <algorithm>
 #include <limits>
 #include <ostream>
 #include <unordered_set>
@@ -7,6 +8,7 @@
 #include "cli/commands.h"
 #include "core/files/collectiontools.h"
 #include "core/files/dictionary.h"
+#include "core/files/errorlog.h"
 #include "core/files/puzzlefile.h"
 #include "core/files/textfile.h"
 #include "core/model/text.h"
@@ -31,18 +33,22 @@ constexpr const char* kCheckHelp =
     "meaning numbers beyond a word's meanings. Exit status 1 when any does.\n";
 
 // The problems of one loaded puzzle beyond its invariants.
-void wordProblems(const PuzzleState& state, const std::unordered_set<std::string>& words, const Meanings& meanings,
+// Without a usable dictionary or meanings list that check is left out.
+void wordProblems(const PuzzleState& state, const std::unordered_set<std::string>* words, const Meanings* meanings,
                   std::vector<std::string>& problems) {
   for (int slot = 1; slot <= state.WordCount; ++slot) {
     const std::string& word = state.WordSlots[slot];
-    if (!words.count(word)) {
-      problems.push_back("slot " + NumberText(slot) + ": " +
-                         (word.empty() ? "no word" : word + " is not in the dictionary"));
+    if (word.empty()) {
+      problems.push_back("slot " + NumberText(slot) + ": no word");
       continue;
     }
-    if (!meanings.loaded()) continue;
+    if (words && !words->count(word)) {
+      problems.push_back("slot " + NumberText(slot) + ": " + word + " is not in the dictionary");
+      continue;
+    }
+    if (!meanings) continue;
     const std::string key = word + ":";
-    const int available = meanings.countLines(key, meanings.firstLine(key));
+    const int available = meanings->countLines(key, meanings->firstLine(key));
     const int number = state.MeaningNumbers[slot];
     if ((available == 0 && number != 0) || (available > 0 && (number < 1 || number > available)))
       problems.push_back("slot " + NumberText(slot) + ": " + word + " has no meaning " + NumberText(number));
@@ -86,25 +92,44 @@ int runCheck(Context& context, const Arguments& args) {
     return 2;
   }
   const std::string& path = parsed.positional[0];
+  if (auto reason = unreadableReason(path)) {
+    context.err << "combwise-cli check: " << *reason << "\n";
+    return 1;
+  }
   const std::string dictionaryPath = parsed.value("--dictionary").value_or(context.dictionaryPath());
-  Dictionary dictionary;
+  ErrorLog log(context.programFolder);
+  Dictionary dictionary(&log);
   if (Status read = readDictionary(dictionaryPath, dictionary); !read.ok()) {
     context.err << "combwise-cli check: " << read.error << "\n";
     return 1;
   }
+  if (const std::string skipped = skippedLinesWarning(dictionary); !skipped.empty())
+    context.err << "combwise-cli check: " << skipped << "\n";
+  // A dictionary or meanings file that is unfit is said once here, not once
+  // for every word of every puzzle.
   std::unordered_set<std::string> words;
   for (int length = 3; length <= 6; ++length) {
     for (const auto& word : dictionary.pool(length)->items()) words.insert(word);
   }
-  Meanings meanings;
-  if (Status read = meanings.read(context.meaningsPath()); !read.ok())
+  const std::unordered_set<std::string>* wordsToCheck = &words;
+  if (words.empty()) {
+    context.err << "combwise-cli check: " << dictionaryPath << " holds no words of 3 to 6 letters (words not checked)\n";
+    wordsToCheck = nullptr;
+  }
+  Meanings meanings(&log);
+  if (Status read = meanings.read(context.meaningsPath()); !read.ok()) {
     context.err << "combwise-cli check: " << read.error << " (meaning numbers not checked)\n";
+  } else if (!meanings.warning().empty()) {
+    context.err << "combwise-cli check: " << meanings.warning() << " (meaning numbers not checked)\n";
+  }
+  const Meanings* meaningsToCheck = meanings.loaded() && meanings.warning().empty() ? &meanings : nullptr;
 
   LineReader reader(path);
   if (!reader.isOpen()) {
-    context.err << "combwise-cli check: cannot open " << path << "\n";
+    context.err << "combwise-cli check: " << fileErrorMessage("open", path, reader.errorNumber()) << "\n";
     return 1;
   }
+  reader.setMaxLineLength(kMaxPuzzleLineLength);
   Board board;
   PuzzleState state;
   long long number = 0;
@@ -112,19 +137,21 @@ int runCheck(Context& context, const Arguments& args) {
   while (auto line = reader.next()) {
     ++number;
     std::vector<std::string> problems;
-    const PuzzleReadResult loaded = loadPuzzleLine(*line, board, state, ClueSource{});
+    PuzzleReadResult loaded = loadPuzzleLine(*line, board, state, ClueSource{});
     if (!loaded.loaded()) {
-      problems.push_back(line->empty() ? "blank line" : "does not load: " + loaded.message);
-    } else {
-      problems = invariantBreaches(board, state);
-      wordProblems(state, words, meanings, problems);
+      loaded.number = static_cast<int>(std::min<long long>(number, std::numeric_limits<int>::max()));
+      context.out << readFailure(path, loaded) << "\n";
+      ++bad;
+      continue;
     }
+    problems = invariantBreaches(board, state);
+    wordProblems(state, wordsToCheck, meaningsToCheck, problems);
     if (problems.empty()) continue;
     ++bad;
     for (const auto& problem : problems) context.out << path << ":" << number << ": " << problem << "\n";
   }
   if (reader.failed()) {
-    context.err << "combwise-cli check: cannot read " << path << "\n";
+    context.err << "combwise-cli check: " << fileErrorMessage("read", path, reader.errorNumber()) << "\n";
     return 1;
   }
   if (number == 0) {

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "core/files/puzzlefile.h"
+
 namespace combwise::cli {
 
 struct Context {
@@ -20,6 +22,10 @@ struct Context {
 };
 
 using Arguments = std::vector<std::string>;
+
+// How show and check name a puzzle that cannot be read: "FILE:N: cause"
+// for a line that does not load, the reader's own message otherwise.
+std::string readFailure(const std::string& path, const PuzzleReadResult& read);
 
 int runCreate(Context& context, const Arguments& args);
 int runBatch(Context& context, const Arguments& args);

@@ -10,6 +10,8 @@
 #include "cli/commands.h"
 #include "cli/progressbar.h"
 #include "core/files/dictionary.h"
+#include "core/files/errorlog.h"
+#include "core/files/textfile.h"
 #include "core/generator/batch.h"
 #include "core/generator/puzzlemaker.h"
 #include "core/model/text.h"
@@ -19,51 +21,63 @@ namespace {
 
 constexpr const char* kCreateHelp =
     "Usage: combwise-cli create --size N --output FILE [--count K] [--jobs J] [--seed S]\n"
-    "                           [--dictionary PATH] [--meanings PATH]\n"
+    "                           [--dictionary PATH] [--meanings PATH] [--max-tries T]\n"
     "\n"
     "Appends K new puzzles (default 1) of size N (7, 10, 17 or 22) to FILE.\n"
+    "  --count K         from 1 to 100000000; puzzles are written as they are made\n"
     "  --jobs J          puzzles made side by side (default: one per core); the\n"
     "                    lines are appended in puzzle order all the same\n"
     "  --seed S          a reproducible run: the same seed gives the same file\n"
     "                    whatever --jobs is\n"
     "  --dictionary PATH the word list (default: english3.txt in the program folder)\n"
-    "  --meanings PATH   the meanings file (default: mean3456.txt in the program folder)\n";
+    "  --meanings PATH   the meanings file (default: mean3456.txt in the program folder)\n"
+    "  --max-tries T     tries for one puzzle before the dictionary is judged unable\n"
+    "                    to make puzzles of the size (default 200000; the game's\n"
+    "                    dictionary needs far fewer at every size)\n";
 
 constexpr const char* kBatchHelp =
-    "Usage: combwise-cli batch [--count K] [--jobs J] [--seed S]\n"
+    "Usage: combwise-cli batch [--count K] [--jobs J] [--seed S] [--max-tries T]\n"
     "\n"
     "Appends 2000 puzzles (or K) of size 17, made from the program folder's\n"
     "english3.txt, to puz-18sepsize17D.txt in the program folder. The file is\n"
     "extended, never truncated.\n";
 
+// The word lists report their own errors to the program folder's error log.
 struct LoadedWords {
+  explicit LoadedWords(const std::string& programFolder) : log(programFolder), dictionary(&log), meanings(&log) {}
+  ErrorLog log;
   Dictionary dictionary;
   Meanings meanings;
 };
 
-// Reads the dictionary and meanings, saying what failed.
-bool loadWords(Context& context, const std::string& dictionaryPath, const std::string& meaningsPath,
-               LoadedWords& words) {
+// Reads the dictionary and meanings, saying what failed and, once each,
+// what makes them doubtful.
+bool loadWords(Context& context, const std::string& command, const std::string& dictionaryPath,
+               const std::string& meaningsPath, LoadedWords& words) {
   if (Status read = readDictionary(dictionaryPath, words.dictionary); !read.ok()) {
-    context.err << "combwise-cli: " << read.error << "\n";
+    context.err << "combwise-cli " << command << ": " << read.error << "\n";
     return false;
   }
+  if (const std::string skipped = skippedLinesWarning(words.dictionary); !skipped.empty())
+    context.err << "combwise-cli " << command << ": " << skipped << "\n";
   if (Status read = words.meanings.read(meaningsPath); !read.ok()) {
-    context.err << "combwise-cli: " << read.error << "\n";
+    context.err << "combwise-cli " << command << ": " << read.error << "\n";
     return false;
   }
+  if (!words.meanings.warning().empty())
+    context.err << "combwise-cli " << command << ": " << words.meanings.warning() << "\n";
   return true;
 }
 
 // Runs an append of puzzles with a progress bar and reports the time taken.
-int timedRun(Context& context, const std::string& output, const LineRunOptions& options,
+int timedRun(Context& context, const std::string& command, const std::string& output, const LineRunOptions& options,
              const std::function<Status(const std::function<void(int)>&)>& run) {
   ProgressBar bar(context.err, options.count, context.progressOnTerminal);
   const auto start = std::chrono::steady_clock::now();
   const Status status = run([&bar](int done) { bar.update(done); });
   bar.finish();
   if (!status.ok()) {
-    context.err << "combwise-cli: " << status.error << "\n";
+    context.err << "combwise-cli " << command << ": " << status.error << "\n";
     return 1;
   }
   const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
@@ -78,6 +92,8 @@ bool readRunOptions(ParsedArgs& parsed, LineRunOptions& options) {
   if (auto jobs = parsed.number("--jobs", 1, 256)) options.jobs = static_cast<int>(*jobs);
   if (auto seed = parsed.number("--seed", 0, std::numeric_limits<long long>::max()))
     options.seed = static_cast<std::uint64_t>(*seed);
+  options.maxTries = kDefaultMaxTries;
+  if (auto tries = parsed.number("--max-tries", 1, 1000000000000LL)) options.maxTries = *tries;
   return parsed.error.empty();
 }
 
@@ -85,7 +101,8 @@ bool readRunOptions(ParsedArgs& parsed, LineRunOptions& options) {
 
 int runCreate(Context& context, const Arguments& args) {
   ParsedArgs parsed =
-      parseArgs(args, {"--size", "--count", "--jobs", "--seed", "--dictionary", "--meanings", "--output"}, {"--help"});
+      parseArgs(args, {"--size", "--count", "--jobs", "--seed", "--dictionary", "--meanings", "--output", "--max-tries"},
+                {"--help"});
   if (parsed.has("--help")) {
     context.out << kCreateHelp;
     return 0;
@@ -107,19 +124,27 @@ int runCreate(Context& context, const Arguments& args) {
   }
   options.size = static_cast<int>(*size);
   const std::string dictionaryPath = parsed.value("--dictionary").value_or(context.dictionaryPath());
+  const std::string meaningsPath = parsed.value("--meanings").value_or(context.meaningsPath());
+  options.dictionaryPath = dictionaryPath;
   if (PuzzleMaker::refuses(dictionaryPath, options.size)) {
     context.err << "combwise-cli create: " << kLargePuzzleRefusal << "\n";
     return 1;
   }
-  LoadedWords words;
-  if (!loadWords(context, dictionaryPath, parsed.value("--meanings").value_or(context.meaningsPath()), words)) return 1;
-  return timedRun(context, *output, options, [&](const std::function<void(int)>& progress) {
+  for (const std::string& input : {dictionaryPath, meaningsPath}) {
+    if (sameFile(*output, input)) {
+      context.err << "combwise-cli create: " << *output << " is an input of this command; puzzles are not appended to it\n";
+      return 1;
+    }
+  }
+  LoadedWords words(context.programFolder);
+  if (!loadWords(context, "create", dictionaryPath, meaningsPath, words)) return 1;
+  return timedRun(context, "create", *output, options, [&](const std::function<void(int)>& progress) {
     return appendPuzzleLines(*output, words.dictionary, words.meanings, options, progress);
   });
 }
 
 int runBatch(Context& context, const Arguments& args) {
-  ParsedArgs parsed = parseArgs(args, {"--count", "--jobs", "--seed"}, {"--help"});
+  ParsedArgs parsed = parseArgs(args, {"--count", "--jobs", "--seed", "--max-tries"}, {"--help"});
   if (parsed.has("--help")) {
     context.out << kBatchHelp;
     return 0;
@@ -137,10 +162,11 @@ int runBatch(Context& context, const Arguments& args) {
   }
   Board board;
   PuzzleState state;
-  LoadedWords words;
+  LoadedWords words(context.programFolder);
   PuzzleMaker maker(board, state, words.dictionary, words.meanings);
   const std::string output = context.programFolder + kBatchFile;
-  const int status = timedRun(context, output, options, [&](const std::function<void(int)>& progress) {
+  options.dictionaryPath = context.dictionaryPath();
+  const int status = timedRun(context, "batch", output, options, [&](const std::function<void(int)>& progress) {
     return maker.runBatch(context.programFolder, options, progress);
   });
   if (status == 0) context.out << "done\n";

@@ -1,4 +1,5 @@
 // The commands that show one puzzle: show and clues.
+#include <filesystem>
 #include <ostream>
 
 #include "cli/args.h"
@@ -6,6 +7,8 @@
 #include "cli/honeycomb.h"
 #include "core/files/cluelisting.h"
 #include "core/files/dictionary.h"
+#include "core/files/errorlog.h"
+#include "core/files/textfile.h"
 #include "core/files/puzzlefile.h"
 #include "core/model/text.h"
 
@@ -20,16 +23,31 @@ constexpr const char* kShowHelp =
     "are shown as _ unless --solution is given.\n";
 
 constexpr const char* kCluesHelp =
-    "Usage: combwise-cli clues FILE N --output OUT\n"
+    "Usage: combwise-cli clues FILE N --output OUT [--force]\n"
     "\n"
     "Writes the clue listing of puzzle N (-1 for the last) of the collection\n"
-    "FILE to the text file OUT, replacing it.\n";
+    "FILE to the text file OUT. An existing OUT is replaced only with --force;\n"
+    "OUT may never be FILE itself.\n";
 
 struct LoadedPuzzle {
+  explicit LoadedPuzzle(const std::string& programFolder) : log(programFolder), meanings(&log) {}
+  ErrorLog log;
   Board board;
   PuzzleState state;
   Meanings meanings;
 };
+
+}  // namespace
+
+std::string readFailure(const std::string& path, const PuzzleReadResult& read) {
+  // A line that does not load is named by file and line, as check names it;
+  // the other messages name the file themselves.
+  if (read.outcome == ReadOutcome::Malformed) return path + ":" + NumberText(read.number) + ": " + read.message;
+  if (read.outcome == ReadOutcome::BeyondCount) return path + ": " + read.message;
+  return read.message;
+}
+
+namespace {
 
 // Loads puzzle n of a collection with its clues; says what failed.
 bool loadPuzzle(Context& context, const std::string& command, const std::string& path, int n, LoadedPuzzle& puzzle) {
@@ -37,11 +55,13 @@ bool loadPuzzle(Context& context, const std::string& command, const std::string&
   const PuzzleReadResult read =
       readPuzzle(path, n, puzzle.board, puzzle.state, ClueSource{&puzzle.meanings, context.meaningsPath(), {}});
   if (!read.loaded()) {
-    context.err << "combwise-cli " << command << ": " << path << ": " << read.message << "\n";
+    context.err << "combwise-cli " << command << ": " << readFailure(path, read) << "\n";
     return false;
   }
   if (!read.clues.ok())
     context.err << "combwise-cli " << command << ": " << read.clues.error << " (clues left empty)\n";
+  else if (!puzzle.meanings.warning().empty())
+    context.err << "combwise-cli " << command << ": " << puzzle.meanings.warning() << "\n";
   return true;
 }
 
@@ -72,7 +92,7 @@ int runShow(Context& context, const Arguments& args) {
     context.err << "combwise-cli show: " << parsed.error << "\n\n" << kShowHelp;
     return 2;
   }
-  LoadedPuzzle puzzle;
+  LoadedPuzzle puzzle(context.programFolder);
   const std::string& path = parsed.positional[0];
   if (!loadPuzzle(context, "show", path, *n, puzzle)) return 1;
 
@@ -96,7 +116,7 @@ int runShow(Context& context, const Arguments& args) {
 }
 
 int runClues(Context& context, const Arguments& args) {
-  ParsedArgs parsed = parseArgs(args, {"--output"}, {"--help"});
+  ParsedArgs parsed = parseArgs(args, {"--output"}, {"--force", "--help"});
   if (parsed.has("--help")) {
     context.out << kCluesHelp;
     return 0;
@@ -110,8 +130,17 @@ int runClues(Context& context, const Arguments& args) {
     context.err << "combwise-cli clues: " << parsed.error << "\n\n" << kCluesHelp;
     return 2;
   }
-  LoadedPuzzle puzzle;
-  if (!loadPuzzle(context, "clues", parsed.positional[0], *n, puzzle)) return 1;
+  const std::string& path = parsed.positional[0];
+  if (sameFile(*output, path) || sameFile(*output, context.meaningsPath())) {
+    context.err << "combwise-cli clues: " << *output << " is an input of this command; it is not overwritten\n";
+    return 1;
+  }
+  if (std::filesystem::exists(*output) && !parsed.has("--force")) {
+    context.err << "combwise-cli clues: " << *output << " exists; give --force to replace it\n";
+    return 1;
+  }
+  LoadedPuzzle puzzle(context.programFolder);
+  if (!loadPuzzle(context, "clues", path, *n, puzzle)) return 1;
   if (Status written = writeClueListing(*output, puzzle.state); !written.ok()) {
     context.err << "combwise-cli clues: " << written.error << "\n";
     return 1;

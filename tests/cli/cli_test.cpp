@@ -105,7 +105,7 @@ TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
   const CliRun checked = cli({"check", collection});
   EXPECT_EQ(checked.status, 1);
   EXPECT_THAT(checked.out, ::testing::Not(HasSubstr(collection + ":1:")));
-  for (const char* line : {":2: hexagon", ":3: blank line", ":4: does not load", ":5: slot 14: QQQ"})
+  for (const char* line : {":2: hexagon", ":3: blank line", ":4: word field 1 has no \",\"", ":5: slot 14: QQQ"})
     EXPECT_THAT(checked.out, HasSubstr(collection + line));
   EXPECT_THAT(checked.out, HasSubstr("5 puzzles checked, 4 have problems"));
 }

@@ -2,8 +2,10 @@
 #include "core/files/dictionary.h"
 
 #include <algorithm>
+#include <new>
 
 #include "core/files/textfile.h"
+#include "core/model/text.h"
 
 namespace combwise {
 
@@ -41,28 +43,59 @@ std::string sortedLetters(std::string_view word) {
   return letters;
 }
 
+std::optional<std::string> dictionaryWord(std::string_view line) {
+  if (line.size() < 3 || line.size() > 6) return std::nullopt;
+  std::string word(line);
+  for (char& c : word) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - ('a' - 'A'));
+    if (c < 'A' || c > 'Z') return std::nullopt;
+  }
+  return word;
+}
+
+std::string skippedLinesWarning(const Dictionary& dictionary) {
+  if (dictionary.skippedLines == 0) return {};
+  const bool one = dictionary.skippedLines == 1;
+  return NumberText(dictionary.skippedLines) + (one ? " line of " : " lines of ") + dictionary.path +
+         (one ? " is not a word" : " are not words") + " of 3 to 6 letters A-Z and " + (one ? "was" : "were") +
+         " skipped";
+}
+
 Status readDictionary(const std::string& path, Dictionary& dictionary, const PumpEvents& events) {
   dictionary.clear();
+  dictionary.skippedLines = 0;
+  if (auto reason = unreadableReason(path)) return Status::failure(*reason);
   LineReader reader(path);
-  if (!reader.isOpen()) return Status::failure("Cannot open dictionary " + path);
-  std::vector<std::string> keys;
-  while (auto line = reader.next()) {
-    pump(events);
-    if (clsSimpleArray* pool = dictionary.pool(static_cast<int>(line->size()))) {
-      if (line->size() == 6) keys.push_back(sortedLetters(*line) + *line);
-      pool->AddItem(std::move(*line));
+  if (!reader.isOpen()) return Status::failure(fileErrorMessage("open", path, reader.errorNumber()));
+  // No word is longer than six letters: longer lines need not be kept whole.
+  reader.setMaxLineLength(64);
+  try {
+    std::vector<std::string> keys;
+    while (auto line = reader.next()) {
+      pump(events);
+      auto word = dictionaryWord(*line);
+      if (!word) {
+        if (!trimmed(*line).empty()) ++dictionary.skippedLines;
+        continue;
+      }
+      clsSimpleArray* pool = dictionary.pool(static_cast<int>(word->size()));
+      if (word->size() == 6) keys.push_back(sortedLetters(*word) + *word);
+      pool->AddItem(std::move(*word));
     }
-  }
-  if (reader.failed()) {
+    if (reader.failed()) {
+      dictionary.clear();
+      return Status::failure(fileErrorMessage("read", path, reader.errorNumber()));
+    }
+    // Inserting one by one into the sorted list gives the same order as a
+    // stable sort of the keys in file order.
+    std::stable_sort(keys.begin(), keys.end(),
+                     [](const std::string& a, const std::string& b) { return SortedKeyList::less(a, b); });
+    dictionary.SixLetterKeys.reserve(keys.size());
+    for (auto& key : keys) dictionary.SixLetterKeys.insert(std::move(key));
+  } catch (const std::bad_alloc&) {
     dictionary.clear();
-    return Status::failure("Cannot read dictionary " + path);
+    return Status::failure("Cannot read " + path + ": there is not enough memory");
   }
-  // Inserting one by one into the sorted list gives the same order as a
-  // stable sort of the keys in file order.
-  std::stable_sort(keys.begin(), keys.end(),
-                   [](const std::string& a, const std::string& b) { return SortedKeyList::less(a, b); });
-  dictionary.SixLetterKeys.reserve(keys.size());
-  for (auto& key : keys) dictionary.SixLetterKeys.insert(std::move(key));
   dictionary.path = path;
   return Status::success();
 }
@@ -74,17 +107,45 @@ Status Meanings::read(const std::string& path, const PumpEvents& events) {
 
 Status Meanings::reload(const std::string& path, const PumpEvents& events) {
   m_lines.Clear();
+  m_warning.clear();
+  if (auto reason = unreadableReason(path)) return Status::failure(*reason);
   LineReader reader(path);
-  if (!reader.isOpen()) return Status::failure("Cannot open meanings file " + path);
-  while (auto line = reader.next()) {
-    pump(events);
-    m_lines.AddItem(std::move(*line));
+  if (!reader.isOpen()) return Status::failure(fileErrorMessage("open", path, reader.errorNumber()));
+  try {
+    while (auto line = reader.next()) {
+      pump(events);
+      m_lines.AddItem(std::move(*line));
+    }
+  } catch (const std::bad_alloc&) {
+    m_lines.Clear();
+    return Status::failure("Cannot read " + path + ": there is not enough memory");
   }
   if (reader.failed()) {
     m_lines.Clear();
-    return Status::failure("Cannot read meanings file " + path);
+    return Status::failure(fileErrorMessage("read", path, reader.errorNumber()));
   }
+  checkFitness(path);
   return Status::success();
+}
+
+void Meanings::checkFitness(const std::string& path) {
+  const auto& items = m_lines.items();
+  if (items.empty()) {
+    m_warning = path + " holds no meanings: every clue will be empty";
+    return;
+  }
+  bool anyClue = false;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const std::string_view line = items[i];
+    const auto colon = line.find(':');
+    if (colon != std::string_view::npos && colon > 0) anyClue = true;
+    if (i > 0 && line < std::string_view(items[i - 1])) {
+      m_warning = path + " is not sorted (line " + NumberText(static_cast<long long>(i) + 1) +
+                  " belongs before line " + NumberText(static_cast<long long>(i)) + "): clues may not be found";
+      return;
+    }
+  }
+  if (!anyClue) m_warning = path + " holds no WORD:clue lines: every clue will be empty";
 }
 
 int Meanings::firstLine(std::string_view key) const {

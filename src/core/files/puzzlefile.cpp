@@ -1,7 +1,9 @@
 // Writing, counting and reading puzzle collection lines.
 #include "core/files/puzzlefile.h"
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
 #include <climits>
 #include <cmath>
 #include <optional>
@@ -32,13 +34,18 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
   return out;
 }
 
-std::vector<std::string_view> splitFields(std::string_view line) {
-  std::vector<std::string_view> fields;
-  std::size_t start = 0;
-  for (std::size_t at; (at = line.find(';', start)) != std::string_view::npos; start = at + 1)
-    fields.push_back(line.substr(start, at - start));
-  fields.push_back(line.substr(start));
-  return fields;
+// The characters a line has once its dot codes are expanded, counted
+// without expanding it.
+std::size_t expandedLength(std::string_view text) {
+  std::size_t length = 0;
+  for (const char c : text) {
+    std::size_t run = 1;
+    for (const auto& dot : kDotCodes) {
+      if (dot.code == c) run = dot.run;
+    }
+    length += run;
+  }
+  return length;
 }
 
 // The leading number of a field as a 32-bit whole number; nothing when it
@@ -98,32 +105,63 @@ std::string formatPuzzleLine(const PuzzleRecord& record) {
 
 ParsedLine parsePuzzleLine(std::string_view line) {
   ParsedLine parsed;
+  // The length is checked before anything is expanded, so a huge line costs
+  // no more than reading it.
+  if (expandedLength(line) > kMaxPuzzleLineLength) {
+    parsed.error = "the line is too long for any puzzle";
+    return parsed;
+  }
   const std::string expanded = expandDots(line);
-  const auto fields = splitFields(expanded);
-  const auto size = wholeNumber(fields[0]);
+  const std::string_view text = expanded;
+  // Fields are taken one at a time: a line of many empty fields keeps none
+  // of them beyond the last possible word slot.
+  std::size_t start = 0;
+  const auto nextField = [&](std::string_view& field) {
+    if (start > text.size()) return false;
+    const std::size_t end = std::min(text.find(';', start), text.size());
+    field = text.substr(start, end - start);
+    start = end + 1;
+    return true;
+  };
+  std::string_view field;
+  nextField(field);
+  const auto size = wholeNumber(field);
   if (!size) {
     parsed.error = "the size does not fit a whole number";
     return parsed;
   }
   parsed.record.size = *size;
-  if (fields.size() > 1) parsed.record.letters = std::string(fields[1]);
+  parsed.fieldCount = 1;
+  if (nextField(field)) {
+    parsed.record.letters = std::string(field);
+    ++parsed.fieldCount;
+  }
   // Fields 3 up to the last but one: the last is what follows the final ";".
-  for (std::size_t i = 2; i + 1 < fields.size(); ++i) {
+  for (std::size_t i = 2; nextField(field); ++i) {
+    ++parsed.fieldCount;
+    if (start > text.size()) break;  // the field after the final ";"
     WordField word;
-    if (!fields[i].empty()) {
-      const auto comma = fields[i].find(',');
+    if (!field.empty()) {
+      const auto comma = field.find(',');
       if (comma == std::string_view::npos) {
         parsed.error = "word field " + NumberText(static_cast<long long>(i) - 1) + " has no \",\"";
         return parsed;
       }
-      const auto meaning = wholeNumber(fields[i].substr(comma + 1));
+      const auto meaning = wholeNumber(field.substr(comma + 1));
       if (!meaning) {
         parsed.error =
             "the meaning number of word field " + NumberText(static_cast<long long>(i) - 1) + " does not fit";
         return parsed;
       }
-      word.word = std::string(fields[i].substr(0, comma));
+      word.word = std::string(field.substr(0, comma));
       word.meaning = *meaning;
+    }
+    if (parsed.record.words.size() >= static_cast<std::size_t>(PuzzleState::kMaxSlots)) {
+      if (!word.word.empty() || word.meaning != 0) {
+        parsed.error = "there are more words than the puzzle has slots";
+        return parsed;
+      }
+      continue;
     }
     parsed.record.words.push_back(std::move(word));
   }
@@ -146,11 +184,16 @@ PuzzleRecord recordOf(const PuzzleState& state) {
 
 Status writePuzzle(const std::string& path, WriteMode mode, const PuzzleState& state) {
   if (!Board::isValidSize(state.PuzzleSize)) return Status::failure("There is no puzzle to save");
-  if (!writeLines(path, {puzzleLine(state)}, mode)) return Status::failure("Cannot write " + path);
+  if (mode == WriteMode::Append) return appendLines(path, {puzzleLine(state)});
+  errno = 0;
+  if (!writeLines(path, {puzzleLine(state)}, mode)) return Status::failure(fileErrorMessage("write", path, errno));
   return Status::success();
 }
 
 int countPuzzles(const std::string& path) {
+  // A pipe or device could be read only once, or would block: the reader
+  // refuses it, and it counts as no puzzles.
+  if (unreadableReason(path, true)) return 0;
   const long long count = countLines(path);
   return count > INT_MAX ? INT_MAX : static_cast<int>(count);
 }
@@ -158,9 +201,13 @@ int countPuzzles(const std::string& path) {
 PuzzleReadResult loadPuzzleLine(std::string_view line, Board& board, PuzzleState& state, const ClueSource& clues) {
   // Everything is checked before the state is touched, so a bad line leaves
   // the shown puzzle exactly as it was.
+  if (line.empty()) return failed(ReadOutcome::Malformed, "blank line");
   ParsedLine parsed = parsePuzzleLine(line);
   if (!parsed.error.empty()) return failed(ReadOutcome::Malformed, parsed.error);
   const PuzzleRecord& record = parsed.record;
+  if (parsed.fieldCount < 3) return failed(ReadOutcome::Malformed, "the line ends before its word fields");
+  if (std::none_of(record.words.begin(), record.words.end(), [](const WordField& w) { return !w.word.empty(); }))
+    return failed(ReadOutcome::Malformed, "the line holds no words");
   if (!Board::isValidSize(record.size))
     return failed(ReadOutcome::Malformed, "there is no puzzle size " + NumberText(record.size));
   const auto [rows, cols] = gridOf(record.size, board);
@@ -200,15 +247,17 @@ PuzzleReadResult loadPuzzleLine(std::string_view line, Board& board, PuzzleState
 }
 
 PuzzleReadResult readPuzzle(const std::string& path, int n, Board& board, PuzzleState& state, const ClueSource& clues) {
+  // A file that cannot be read says why, rather than that it holds no puzzles.
+  if (auto reason = unreadableReason(path, true)) return failed(ReadOutcome::Unreadable, *reason, n);
   const int count = state.PuzzleCount;
   if (count <= 0) return failed(ReadOutcome::NoPuzzles, noPuzzlesMessage(path), n);
-  if (n > count) return failed(ReadOutcome::BeyondCount, "there is no puzzle " + NumberText(n), n);
+  if (n > count || n == 0 || n < -1) return failed(ReadOutcome::BeyondCount, beyondCountMessage(n, count), n);
   if (n == -1) n = count;
-  if (n < 1) return failed(ReadOutcome::BeyondCount, "there is no puzzle " + NumberText(n), n);
 
   // Only the lines up to n are read: collections can be long.
   LineReader reader(path);
-  if (!reader.isOpen()) return failed(ReadOutcome::Unreadable, "Cannot open " + path, n);
+  if (!reader.isOpen()) return failed(ReadOutcome::Unreadable, fileErrorMessage("open", path, reader.errorNumber()), n);
+  reader.setMaxLineLength(kMaxPuzzleLineLength);
   for (int skipped = 1; skipped < n; ++skipped) {
     if (!reader.skip()) return failed(ReadOutcome::Unreadable, path + " has fewer than " + NumberText(n) + " lines", n);
   }
@@ -238,6 +287,10 @@ WordListLines wordListLines(const PuzzleState& state) {
 std::string positionText(int number, int count) { return "p# " + NumberText(number) + " of " + NumberText(count); }
 
 std::string noPuzzlesMessage(const std::string& path) { return path + " does not appear to have any puzzles"; }
+
+std::string beyondCountMessage(int n, int count) {
+  return "there is no puzzle " + NumberText(n) + ": N must be from 1 to " + NumberText(count) + ", or -1 for the last";
+}
 
 std::string withDefaultExtension(const std::string& path) {
   return path.find('.') == std::string::npos ? path + ".txt" : path;

@@ -41,12 +41,20 @@ struct PuzzleRecord {
 
 // The line of a record, without its line end.
 std::string formatPuzzleLine(const PuzzleRecord& record);
-// A line taken apart. An error names what is wrong: a word field without a
-// "," or a number that does not fit. The size is not checked here.
+// A line taken apart. An error names what is wrong: a line too long for
+// any puzzle, a word field without a ",", a number that does not fit, or
+// more words than any puzzle has slots. Empty fields past the fiftieth
+// word are not kept. The size is not checked here.
 struct ParsedLine {
   PuzzleRecord record;
   std::string error;
+  std::size_t fieldCount = 0;  // ";"-separated fields, the one after the final ";" included
 };
+
+// No puzzle line is longer once its dot codes are expanded: the largest
+// grid and fifty word fields take a small part of it. A longer line is
+// rejected before it is expanded.
+inline constexpr std::size_t kMaxPuzzleLineLength = 1 << 16;
 ParsedLine parsePuzzleLine(std::string_view line);
 
 // The record of the current puzzle: its grid row by row and its word slots
@@ -89,14 +97,18 @@ struct PuzzleReadResult {
 };
 
 // Loads puzzle n (1-based; -1 for the last) of a collection into the state.
-// state.PuzzleCount must hold countPuzzles(path). The file is read up to
+// state.PuzzleCount must hold countPuzzles(path). What is not a regular file
+// (a folder, a pipe, a device) is refused with its cause, since it cannot
+// be counted and then read. The file is read up to
 // line n only. On success the board is set up again only if the size
 // changed, all 50 slots are refilled, the clues looked up, CollectionPath
 // and PuzzleNumber set and the selection and undo list cleared; the
 // player's Entries stay as they are. On any failure the state is untouched.
 PuzzleReadResult readPuzzle(const std::string& path, int n, Board& board, PuzzleState& state, const ClueSource& clues);
 
-// Loads one line as readPuzzle does once it has found the line.
+// Loads one line as readPuzzle does once it has found the line. A blank
+// line, a line that ends before its word fields ("7;", "22;;") or holds no
+// word is malformed, not an empty puzzle.
 PuzzleReadResult loadPuzzleLine(std::string_view line, Board& board, PuzzleState& state, const ClueSource& clues);
 
 // The word lists beside the board: a heading, then " 03. TEARS" for each
@@ -112,6 +124,8 @@ WordListLines wordListLines(const PuzzleState& state);
 std::string positionText(int number, int count);
 // "<path> does not appear to have any puzzles".
 std::string noPuzzlesMessage(const std::string& path);
+// "there is no puzzle 900: N must be from 1 to 800, or -1 for the last".
+std::string beyondCountMessage(int n, int count);
 // A save name with no "." anywhere in its path gets ".txt"; any other name
 // is kept as it is, even when its only dot is in a folder name.
 std::string withDefaultExtension(const std::string& path);

@@ -12,11 +12,12 @@ void clsSimpleArray::reportIndexError(const char* member) const {
   if (m_log) m_log->LogError(false, "-1", kIndexError, "clsSimpleArray", member);
 }
 
-// Storage grows in steps of 100: the first item sizes it for indexes 0 to
-// 100, and passing the bound enlarges it to the new last index plus 100.
+// Room for at least 100 more items whenever the list is full, and at least
+// as many again as it holds, so that filling a list of n items copies them
+// a logarithmic number of times rather than n / 100 times.
 void clsSimpleArray::reserveFor(std::size_t count) {
   if (count > m_items.capacity()) {
-    const std::size_t capacity = count - 1 + 101;
+    const std::size_t capacity = std::max(count - 1 + 101, 2 * m_items.capacity());
     m_items.reserve(capacity);
     m_itemData.reserve(capacity);
   }
@@ -245,38 +246,51 @@ bool matchSet(char c, std::string_view pattern, std::size_t& p) {
   return hit != negate;
 }
 
-bool matchFrom(std::string_view text, std::size_t t, std::string_view pattern, std::size_t p) {
-  while (p < pattern.size()) {
-    const char token = pattern[p];
-    if (token == '*') {
+// One pattern token against one character: "?", "#", "[...]" or a literal.
+// `next` receives the position after the token.
+bool matchToken(char c, std::string_view pattern, std::size_t p, std::size_t& next) {
+  const char token = pattern[p];
+  next = p + 1;
+  if (token == '?') return true;
+  if (token == '#') return std::isdigit(static_cast<unsigned char>(c)) != 0;
+  if (token == '[') return matchSet(c, pattern, next);
+  return c == token;
+}
+
+// Every token but "*" takes exactly one character, so the greedy form is
+// exact: on a mismatch only the latest "*" needs to take one more
+// character, since an earlier "*" taking more could only leave less room
+// for what follows. Linear in practice, at worst text length times pattern
+// length, where trying every split of every "*" was exponential.
+bool matchFrom(std::string_view text, std::string_view pattern) {
+  std::size_t t = 0;
+  std::size_t p = 0;
+  std::size_t starP = std::string_view::npos;  // the pattern after the latest "*"
+  std::size_t starT = 0;                       // where that "*" stopped taking characters
+  while (t < text.size()) {
+    if (p < pattern.size() && pattern[p] == '*') {
       while (p < pattern.size() && pattern[p] == '*') ++p;
       if (p == pattern.size()) return true;
-      for (std::size_t from = t; from <= text.size(); ++from) {
-        if (matchFrom(text, from, pattern, p)) return true;
-      }
-      return false;
+      starP = p;
+      starT = t;
+      continue;
     }
-    if (t >= text.size()) return false;
-    const char c = text[t];
-    if (token == '?') {
-      ++p;
-    } else if (token == '#') {
-      if (!std::isdigit(static_cast<unsigned char>(c))) return false;
-      ++p;
-    } else if (token == '[') {
-      ++p;
-      if (!matchSet(c, pattern, p)) return false;
-    } else {
-      if (c != token) return false;
-      ++p;
+    std::size_t next = 0;
+    if (p < pattern.size() && matchToken(text[t], pattern, p, next)) {
+      p = next;
+      ++t;
+      continue;
     }
-    ++t;
+    if (starP == std::string_view::npos) return false;
+    p = starP;
+    t = ++starT;
   }
-  return t == text.size();
+  while (p < pattern.size() && pattern[p] == '*') ++p;
+  return p == pattern.size();
 }
 
 }  // namespace
 
-bool matchesWildcard(std::string_view text, std::string_view pattern) { return matchFrom(text, 0, pattern, 0); }
+bool matchesWildcard(std::string_view text, std::string_view pattern) { return matchFrom(text, pattern); }
 
 }  // namespace combwise

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/model/callbacks.h"
+
 namespace combwise {
 
 // Reads a file line by line without loading it whole.
@@ -23,6 +25,12 @@ class LineReader {
   bool skip();
   // True when reading stopped on an error rather than at the end.
   bool failed() const { return m_error || !m_file; }
+  // The system's error number of the failed open or read (0 when none).
+  int errorNumber() const { return m_errno; }
+  // Lines longer than this are cut to this length plus one character (so
+  // the caller sees they are too long); the rest of the line is skipped
+  // without being kept in memory. 0 keeps lines whole.
+  void setMaxLineLength(std::size_t length) { m_maxLine = length; }
 
  private:
   // Refills the buffer; false at the end of the file or on an error.
@@ -36,6 +44,8 @@ class LineReader {
   std::size_t m_begin = 0;  // unread part of the buffer: [m_begin, m_end)
   std::size_t m_end = 0;
   bool m_error = false;
+  int m_errno = 0;
+  std::size_t m_maxLine = 0;
 };
 
 // All lines of a file; nullopt when it cannot be opened or read.
@@ -46,12 +56,61 @@ long long countLines(const std::string& path);
 
 enum class WriteMode { Truncate, Append };
 
+// "Cannot VERB PATH: cause", the cause the way the system says it ("No such
+// file or directory", "Permission denied", "No space left on device").
+std::string fileErrorMessage(std::string_view verb, const std::string& path, int errorNumber);
+
+// Why a path cannot be read as a file: nullopt when it can. Names the file
+// and the cause: missing, a folder, permission denied, or (when
+// `regularOnly`) not a regular file, such as a pipe or a device.
+std::optional<std::string> unreadableReason(const std::string& path, bool regularOnly = false);
+
+// Appends lines (each followed by CR LF) to a file, creating it when
+// needed. A file whose last line lacks its line end gets one first, so the
+// new lines stand on their own. A write that fails midway (a full disk)
+// cuts the file back to its earlier length, and a file that this call
+// created and could not fill is removed: the file is as it was. The error
+// names the file and the cause.
+Status appendLines(const std::string& path, const std::vector<std::string>& lines);
+
+// The same, one line at a time, for long runs: each line is on disk when
+// add() returns.
+class LineAppender {
+ public:
+  explicit LineAppender(std::string path) : m_path(std::move(path)) {}
+  ~LineAppender();
+  LineAppender(const LineAppender&) = delete;
+  LineAppender& operator=(const LineAppender&) = delete;
+
+  // Opens the file (on the first add when not called before).
+  Status open();
+  Status add(std::string_view line);
+  // Closes the file; a file this appender created and never wrote to is
+  // removed, so a failed run leaves no empty file behind.
+  Status close();
+  long long added() const { return m_added; }
+
+ private:
+  Status fail(int errorNumber);
+
+  std::string m_path;
+  std::FILE* m_file = nullptr;
+  bool m_created = false;
+  bool m_needsLineEnd = false;
+  long long m_startLength = 0;
+  long long m_added = 0;
+};
+
 // Writes each line followed by CR LF. False when the file cannot be written.
 bool writeLines(const std::string& path, const std::vector<std::string>& lines, WriteMode mode);
 
 // Replaces a file's content by writing a sibling file and renaming it over
 // the old one, so an interrupted save never leaves a truncated file.
 bool replaceFileContent(const std::string& path, std::string_view content);
+
+// True when both paths name one existing file (through links, "..", or
+// other spellings of the same path).
+bool sameFile(const std::string& a, const std::string& b);
 
 // A file counts as existing when it can be opened and its length is not 0.
 bool fileHasContent(const std::string& path);

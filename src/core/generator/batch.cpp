@@ -2,14 +2,14 @@
 #include "core/generator/batch.h"
 
 #include <algorithm>
-#include <atomic>
 #include <condition_variable>
-#include <cstdio>
+#include <map>
 #include <mutex>
 #include <thread>
 #include <vector>
 
 #include "core/files/puzzlefile.h"
+#include "core/files/textfile.h"
 #include "core/generator/generator.h"
 #include "core/model/text.h"
 
@@ -32,29 +32,51 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
 
   const int cores = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
   const int jobs = std::clamp(options.jobs > 0 ? options.jobs : cores, 1, options.count);
+  // How far the workers may run ahead of the sink: lines wait in memory
+  // only this far, whatever the count.
+  const long long window = 4LL * jobs;
 
   std::mutex mutex;
-  std::condition_variable ready;
-  std::vector<std::optional<std::string>> lines(static_cast<std::size_t>(options.count) + 1);
-  std::atomic<int> next{1};
-  std::atomic<bool> stop{false};
+  std::condition_variable ready;  // a line is made, or a worker gave up
+  std::condition_variable room;   // the sink took a line
+  std::map<int, std::string> lines;
+  int next = 1;      // the next puzzle a worker takes
+  int handed = 0;    // puzzles the sink has taken
+  int failedAt = 0;  // the first puzzle that could not be made
+  bool stop = false;
 
   const auto work = [&] {
     PuzzleGenerator generator(dictionary, meanings);
     Board board;
     PuzzleState state;
     setUpPuzzle(board, state, options.size);
-    const GeneratorHooks hooks{{}, {}, [&stop] { return stop.load(std::memory_order_relaxed); }};
-    for (int index = next++; index <= options.count && !stop; index = next++) {
+    GeneratorHooks hooks;
+    hooks.stop = [&] {
+      const std::lock_guard lock(mutex);
+      return stop;
+    };
+    hooks.maxTries = options.maxTries;
+    for (;;) {
+      int index = 0;
+      {
+        std::unique_lock lock(mutex);
+        room.wait(lock, [&] { return stop || next > options.count || next - handed <= window; });
+        if (stop || next > options.count) return;
+        index = next++;
+      }
       generator.resetPools();
       RandomSource random = streamFor(options, index);
-      if (!generator.generate(board, state, random, hooks)) break;
-      std::string line = puzzleLine(state);
+      const bool made = generator.generate(board, state, random, hooks);
       {
         const std::lock_guard lock(mutex);
-        lines[static_cast<std::size_t>(index)] = std::move(line);
+        if (made) {
+          lines.emplace(index, puzzleLine(state));
+        } else if (failedAt == 0 || index < failedAt) {
+          failedAt = index;
+        }
       }
-      ready.notify_one();
+      ready.notify_all();
+      if (!made) return;
     }
   };
 
@@ -67,40 +89,51 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
     std::string line;
     {
       std::unique_lock lock(mutex);
-      ready.wait(lock, [&] { return lines[static_cast<std::size_t>(index)].has_value(); });
-      line = std::move(*lines[static_cast<std::size_t>(index)]);
-      lines[static_cast<std::size_t>(index)].reset();
+      ready.wait(lock, [&] { return lines.count(index) > 0 || (failedAt != 0 && failedAt <= index); });
+      const auto found = lines.find(index);
+      if (found == lines.end()) {
+        stop = true;
+        status = Status::failure(gaveUpMessage(options.dictionaryPath.empty() ? "in use" : options.dictionaryPath,
+                                               options.size, options.maxTries));
+        break;
+      }
+      line = std::move(found->second);
+      lines.erase(found);
+      handed = index;
     }
+    room.notify_all();
     if (!sink(index, line)) {
+      const std::lock_guard lock(mutex);
       stop = true;
       status = Status::failure("Stopped after " + NumberText(index) + " puzzles");
       break;
     }
   }
-  stop = true;
+  {
+    const std::lock_guard lock(mutex);
+    stop = true;
+  }
+  room.notify_all();
   return status;
 }
 
 Status appendPuzzleLines(const std::string& path, const Dictionary& dictionary, const Meanings& meanings,
                          const LineRunOptions& options, const std::function<void(int)>& progress) {
-  std::FILE* file = std::fopen(path.c_str(), "ab");
-  if (!file) return Status::failure("Cannot write " + path);
-  std::string writeError;
+  LineAppender file(path);
+  if (Status opened = file.open(); !opened.ok()) return opened;
+  Status writeError;
   Status status = makePuzzleLines(dictionary, meanings, options, [&](int index, const std::string& line) {
     // Each puzzle goes to the file as soon as it is made, so an ended run
     // keeps every finished puzzle.
-    const bool ok = std::fwrite(line.data(), 1, line.size(), file) == line.size() &&
-                    std::fwrite("\r\n", 1, 2, file) == 2 && std::fflush(file) == 0;
-    if (!ok) {
-      writeError = "Cannot write " + path;
-      return false;
-    }
+    writeError = file.add(line);
+    if (!writeError.ok()) return false;
     if (progress) progress(index);
     return true;
   });
-  if (std::fclose(file) != 0 && writeError.empty()) writeError = "Cannot write " + path;
-  if (!writeError.empty()) return Status::failure(writeError);
-  return status;
+  const Status closed = file.close();
+  if (!writeError.ok()) return writeError;
+  if (!status.ok()) return status;
+  return closed;
 }
 
 }  // namespace combwise

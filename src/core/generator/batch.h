@@ -24,6 +24,8 @@ struct LineRunOptions {
   int count = 1;
   int jobs = 0;                       // worker threads; 0 for one per core
   std::optional<std::uint64_t> seed;  // reproducible streams; else the clock
+  long long maxTries = 0;             // tries per puzzle before giving up; 0: no bound
+  std::string dictionaryPath;         // named when the dictionary cannot make the size
 };
 
 // Receives puzzle i (from 1) and its collection line, in order, on the
@@ -32,12 +34,16 @@ using LineSink = std::function<bool(int index, const std::string& line)>;
 
 // Makes `count` puzzles of `size`. Fails at once, making nothing, for a
 // size that is not one of the four or pools that cannot make a puzzle;
-// reports a stop by the sink as an error too.
+// fails when a puzzle takes more than maxTries tries; reports a stop by the
+// sink as an error too. Lines are streamed: memory does not grow with the
+// count, as workers run at most a few puzzles ahead of the sink.
 Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, const LineRunOptions& options,
                        const LineSink& sink);
 
-// Appends each line, as it comes, to a collection (never truncating it).
-// Progress, if given, hears each appended puzzle's number.
+// Appends each line, as it comes, to a collection (never truncating it; a
+// last line without its line end is ended first). A failed write leaves
+// the collection as it was before that line, and a run that appends
+// nothing leaves no new file. Progress hears each appended puzzle's number.
 Status appendPuzzleLines(const std::string& path, const Dictionary& dictionary, const Meanings& meanings,
                          const LineRunOptions& options, const std::function<void(int)>& progress = {});
 

@@ -117,19 +117,28 @@ void PuzzleGenerator::resetPools() {
 
 bool PuzzleGenerator::generate(const Board& board, PuzzleState& state, RandomSource& random,
                                const GeneratorHooks& hooks) {
+  m_lastEnd = GenerateEnd::CannotGenerate;
   if (!canGenerate() || board.hexCount() == 0) return false;
   Work work(board);
-  for (;;) {
-    if (hooks.stop && hooks.stop()) return false;
+  for (long long tries = 1;; ++tries) {
+    if (hooks.stop && hooks.stop()) {
+      m_lastEnd = GenerateEnd::Stopped;
+      return false;
+    }
+    if (hooks.maxTries > 0 && tries > hooks.maxTries) {
+      m_lastEnd = GenerateEnd::GaveUp;
+      return false;
+    }
     ++m_stats.tries;
+    report(hooks.status, "Reset ... " + NumberText(tries));
     if (tryOnce(board, work, random, hooks) && complete(board, work, state)) break;
   }
   attachClues(state, m_meanings, random);
+  m_lastEnd = GenerateEnd::Made;
   return true;
 }
 
 bool PuzzleGenerator::tryOnce(const Board& board, Work& work, RandomSource& random, const GeneratorHooks& hooks) {
-  report(hooks.status, "Reset ...");
   work.attempts = 0;
   pump(hooks.events);
   work.cursor.fill(-1);
@@ -254,6 +263,11 @@ bool PuzzleGenerator::complete(const Board& board, Work& work, PuzzleState& stat
     state.WordSlots[i + 1] = line.substr(second + 1);
   }
   return true;
+}
+
+std::string gaveUpMessage(const std::string& dictionaryPath, int size, long long tries) {
+  return "The dictionary " + dictionaryPath + " cannot make puzzles of size " + NumberText(size) +
+         ": no puzzle after " + NumberText(tries) + " tries";
 }
 
 void attachClues(PuzzleState& state, const Meanings& meanings, RandomSource& random) {

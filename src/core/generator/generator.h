@@ -26,11 +26,26 @@
 namespace combwise {
 
 struct GeneratorHooks {
-  StatusReport status;  // "Reset ...", "Solve hex 3 - 5 not verified"
+  StatusReport status;  // "Reset ... 12" (the try count), "Solve hex 3 - 5 not verified"
   PumpEvents events;    // at the start of every try and every hexagon
   // Asked at the start of every try; true ends generation without a puzzle.
   std::function<bool()> stop;
+  // Tries for one puzzle before giving up (0: no bound). A dictionary whose
+  // pools all hold two words or more can still never make a puzzle of a
+  // size; the bound turns that endless search into an answer.
+  long long maxTries = 0;
 };
+
+// Tries that the game's own dictionary never needs for one puzzle of any
+// size, with a wide margin, so reaching them says the dictionary cannot make
+// puzzles of that size.
+inline constexpr long long kDefaultMaxTries = 200000;
+
+// How the last generate() ended.
+enum class GenerateEnd { Made, CannotGenerate, Stopped, GaveUp };
+
+// "The dictionary PATH cannot make puzzles of size N: no puzzle after M tries".
+std::string gaveUpMessage(const std::string& dictionaryPath, int size, long long tries);
 
 struct GenerationStats {
   long long tries = 0;     // tries started
@@ -63,6 +78,7 @@ class PuzzleGenerator {
   // sorted order (each hexagon's outside line before its inside line).
   const std::vector<std::string>& summaryLines() const { return m_summary; }
   const GenerationStats& stats() const { return m_stats; }
+  GenerateEnd lastEnd() const { return m_lastEnd; }
   const WordPool& pool(int length) const { return m_pools[static_cast<std::size_t>(length - 3)]; }
 
  private:
@@ -78,6 +94,7 @@ class PuzzleGenerator {
   std::vector<std::uint64_t> m_keyPrefixes;  // packed upper-case prefixes of the anagram keys, sorted
   std::vector<std::string> m_summary;
   GenerationStats m_stats;
+  GenerateEnd m_lastEnd = GenerateEnd::Made;
 };
 
 // Looks a meaning up for every word slot 1..WordCount: the slot's clue is

@@ -14,7 +14,13 @@ Status PuzzleMaker::loadDictionary(const std::string& path, const StatusReport& 
   m_generator.reset();  // its pools point into the words being replaced
   report(status, "Reading Dictionary ...");
   Status read = readDictionary(path, m_dictionary, events);
-  report(status, read.ok() ? "Dictionary read" : read.error);
+  if (!read.ok()) {
+    report(status, read.error);
+  } else if (const std::string skipped = skippedLinesWarning(m_dictionary); !skipped.empty()) {
+    report(status, "Dictionary read: " + skipped);
+  } else {
+    report(status, "Dictionary read");
+  }
   return read;
 }
 
@@ -24,6 +30,7 @@ Status PuzzleMaker::loadMeanings(const std::string& path, const StatusReport& st
   report(status, "Reading Meanings file ...");
   Status read = m_meanings.read(path, events);
   if (!read.ok()) report(status, read.error);
+  if (read.ok() && !m_meanings.warning().empty()) report(status, m_meanings.warning());
   return read;
 }
 
@@ -69,8 +76,11 @@ CreateResult PuzzleMaker::create(int size, const std::string& dictionaryPath, co
   if (!engine.canGenerate())
     return {CreateOutcome::CannotGenerate,
             "The dictionary " + dictionaryPath + " needs at least two words of each length from 3 to 6 letters"};
-  if (!engine.generate(m_board, m_state, random, hooks))
+  if (!engine.generate(m_board, m_state, random, hooks)) {
+    if (engine.lastEnd() == GenerateEnd::GaveUp)
+      return {CreateOutcome::CannotGenerate, gaveUpMessage(dictionaryPath, size, hooks.maxTries)};
     return {CreateOutcome::CannotGenerate, "Puzzle creation stopped"};
+  }
 
   if (Status written = writePuzzle(outputPath, WriteMode::Truncate, m_state); !written.ok())
     return {CreateOutcome::NotSaved, written.error};

@@ -16,18 +16,25 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-TEST(DictionaryFile, LinesGoToThePoolOfTheirLengthAsTheyStand) {
+TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCounted) {
   TempFolder folder;
   const std::string first = folder.file("first.txt");
-  ASSERT_TRUE(writeLines(first, {"TEA", "TEA ", "SEAT", "TEARS", "STREAM", "ABCDEF", "MASTER", "ab", "SEVENTH"},
+  // Only words the puzzle reader takes back may reach a puzzle: no blank,
+  // digit, dot code, punctuation or NUL; lower case is taken as upper case.
+  ASSERT_TRUE(writeLines(first,
+                         {"TEA", "TEA ", "SEAT", "tears", "STREAM", "ABCDEF", "MASTER", "ab", "SEVENTH", "A#B",
+                          "AB1C", std::string("AB\0C", 4), "", "ME-OW"},
                          WriteMode::Truncate));
   Dictionary dictionary;
   int pumped = 0;
   ASSERT_TRUE(readDictionary(first, dictionary, [&] { ++pumped; }).ok());
-  EXPECT_EQ(pumped, 9);
+  EXPECT_EQ(pumped, 14);
   EXPECT_EQ(dictionary.path, first);
+  EXPECT_EQ(dictionary.skippedLines, 7);
+  EXPECT_EQ(skippedLinesWarning(dictionary),
+            "7 lines of " + first + " are not words of 3 to 6 letters A-Z and were skipped");
   EXPECT_THAT(dictionary.Words3.items(), ElementsAre("TEA"));
-  EXPECT_THAT(dictionary.Words4.items(), ElementsAre("TEA ", "SEAT"));
+  EXPECT_THAT(dictionary.Words4.items(), ElementsAre("SEAT"));
   EXPECT_THAT(dictionary.Words5.items(), ElementsAre("TEARS"));
   EXPECT_THAT(dictionary.Words6.items(), ElementsAre("STREAM", "ABCDEF", "MASTER"));
   EXPECT_THAT(dictionary.SixLetterKeys.items(), ElementsAre("ABCDEFABCDEF", "AEMRSTMASTER", "AEMRSTSTREAM"));
@@ -40,8 +47,8 @@ TEST(DictionaryFile, LinesGoToThePoolOfTheirLengthAsTheyStand) {
   EXPECT_TRUE(dictionary.SixLetterKeys.empty());
 
   const Status missing = readDictionary(folder.file("missing.txt"), dictionary);
-  EXPECT_FALSE(missing.ok());
-  EXPECT_THAT(missing.error, ::testing::HasSubstr("missing.txt"));
+  EXPECT_EQ(missing.error, "Cannot open " + folder.file("missing.txt") + ": No such file or directory");
+  EXPECT_EQ(readDictionary(folder.folder(), dictionary).error, "Cannot open " + folder.folder() + ": it is a folder");
 }
 
 TEST(MeaningsFile, TheMeaningNumberPicksTheLineAndAnythingElseGivesNoClue) {

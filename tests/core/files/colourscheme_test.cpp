@@ -1,0 +1,144 @@
+// Colour schemes: the list, the two loaders with their own words and
+// fallbacks, colour lines, and what applying a scheme paints.
+#include "core/files/colourscheme.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "core/files/textfile.h"
+#include "support/tempfolder.h"
+
+namespace combwise {
+namespace {
+
+std::vector<std::string> schemeLines(const std::string& header, int red) {
+  std::vector<std::string> lines{header};
+  for (int i = 0; i < ColourScheme::kFileColours; ++i) lines.push_back(std::to_string(red + i) + ";2;3");
+  return lines;
+}
+
+class SchemeFile : public ::testing::Test {
+ protected:
+  SchemeFile() {
+    auto lines = schemeLines("xp.col", 10);
+    const auto blue = schemeLines("blue.col", 100);
+    lines.insert(lines.end(), blue.begin(), blue.end());
+    lines.insert(lines.end(), {"short.col", "1;1;1", "2;2;2", "3;3;3", "", "9;9;9"});
+    lines.push_back("my old colours.col backup");
+    writeLines(file, lines, WriteMode::Truncate);
+  }
+  TempFolder folder;
+  const std::string file = schemeFilePath(folder.folder());
+  const DesignedColours designed{rgb(250, 250, 250), rgb(7, 7, 7)};
+};
+
+TEST_F(SchemeFile, ListHoldsTheTextBeforeColOfEveryLineContainingIt) {
+  EXPECT_EQ(schemeList(file), (std::vector<std::string>{"xp", "blue", "short", "my old colours"}));
+  EXPECT_TRUE(schemeList(folder.file("missing.col")).empty());
+  EXPECT_EQ(schemeListEntry("a.col.col"), "a");
+  EXPECT_FALSE(schemeListEntry("236;233;216"));
+}
+
+TEST_F(SchemeFile, BothLoadersReadThirteenColoursAndTheOptionsOneReturnsColourTwo) {
+  ColourScheme scheme;
+  scheme[13] = 77;
+  const SchemeLoad load = loadOptionsScheme(file, "blue.col", scheme, designed);
+  EXPECT_TRUE(load.message.empty());
+  EXPECT_EQ(load.colour, rgb(102, 2, 3));
+  EXPECT_EQ(scheme.name, "blue.col");
+  for (int i = 0; i < 13; ++i) EXPECT_EQ(scheme[i], rgb(100 + i, 2, 3)) << i;
+  EXPECT_EQ(scheme[13], 77);  // never in the file
+
+  ColourScheme atStart;
+  EXPECT_TRUE(loadStartupScheme(file, "xp.col", atStart, designed).message.empty());
+  EXPECT_EQ(atStart[12], rgb(22, 2, 3));
+}
+
+TEST_F(SchemeFile, MissingSchemesKeepTheTableAndFallBackWithTheirOwnWords) {
+  ColourScheme scheme;
+  const auto before = scheme.colours;
+  SchemeLoad load = loadOptionsScheme(file, "Blue.col", scheme, designed);  // names match exactly
+  EXPECT_EQ(load.message, "Color Scheme: Blue.col not found");
+  EXPECT_EQ(load.colour, 0);
+  EXPECT_EQ(scheme.name, "default.col");
+  EXPECT_EQ(scheme.colours, before);
+
+  load = loadStartupScheme(folder.file("none.col"), "blue.col", scheme, designed);
+  EXPECT_EQ(load.message, "Colour Scheme: blue.col not found");
+  EXPECT_EQ(scheme.name, "xp.col");
+  EXPECT_EQ(scheme.colours, before);
+}
+
+TEST_F(SchemeFile, DefaultSchemeNeverOpensTheFileAndTakesTheDesignedColours) {
+  ColourScheme scheme;
+  const auto before = scheme.colours;
+  const SchemeLoad load = loadOptionsScheme(folder.file("no such file"), "DEFAULT.col", scheme, designed);
+  EXPECT_TRUE(load.message.empty());
+  EXPECT_EQ(load.colour, designed.listBox);
+  EXPECT_EQ(scheme[2], designed.listBox);
+  EXPECT_EQ(scheme[4], designed.listBox);
+  EXPECT_EQ(scheme[3], designed.formBrush);
+  EXPECT_EQ(scheme[0], before[0]);
+}
+
+TEST_F(SchemeFile, AnEmptyColourLineStopsReadingAndTakesTheDesignedColours) {
+  ColourScheme scheme;
+  const auto before = scheme.colours;
+  const SchemeLoad load = loadOptionsScheme(file, "short.col", scheme, designed);
+  EXPECT_EQ(load.colour, designed.listBox);
+  EXPECT_EQ(scheme[0], rgb(1, 1, 1));
+  EXPECT_EQ(scheme[1], rgb(2, 2, 2));
+  EXPECT_EQ(scheme[2], designed.listBox);
+  EXPECT_EQ(scheme[5], before[5]);  // the line after the stop is never read
+}
+
+TEST(ColourLine, FieldsAreRoundedNumbersAndAnythingElseReadsZero) {
+  EXPECT_EQ(parseColourLine("236;233;216"), rgb(236, 233, 216));
+  EXPECT_EQ(parseColourLine("12.5;13.5; 7x"), rgb(12, 14, 7));
+  EXPECT_EQ(parseColourLine("red;;300"), rgb(0, 0, 255));
+  EXPECT_EQ(parseColourLine("-4;40"), rgb(0, 40, 0));
+  EXPECT_EQ(parseColourLine("1;2;3;4"), rgb(1, 2, 3));
+  EXPECT_FALSE(parseColourLine(""));
+}
+
+TEST(SchemeText, ReadsLfAndCrLfAndSurvivesGarbage) {
+  std::array<int, ColourScheme::kColours> colours{};
+  EXPECT_EQ(readSchemeText("x.col\r\n1;2;3\n", "x.col", colours), SchemeSearch::Stopped);
+  EXPECT_EQ(colours[0], rgb(1, 2, 3));
+  EXPECT_EQ(readSchemeText("", "x.col", colours), SchemeSearch::NotFound);
+
+  std::mt19937 random(5);
+  std::string text;
+  for (int i = 0; i < 20000; ++i) text += "x.col;0123456789\r\n\0-.e+ "[random() % 25];
+  for (std::size_t cut = 0; cut < text.size(); cut += 997) readSchemeText(text.substr(cut), "x.col", colours);
+}
+
+TEST(SchemePaintRules, ColourThirteenOverridesTheButtonColour) {
+  ColourScheme scheme;
+  scheme[4] = 500;
+  scheme[13] = 0;
+  EXPECT_EQ(prepareSchemePaint(scheme).buttons, 500);
+  EXPECT_EQ(scheme[13], 500);
+
+  scheme[13] = 1;
+  const SchemePaint paint = prepareSchemePaint(scheme);
+  EXPECT_EQ(paint.buttons, 1);
+  EXPECT_EQ(paint.background, scheme[2]);
+  EXPECT_EQ(paint.formBrush, scheme[3]);
+
+  scheme[13] = -5;  // neither rule applies
+  scheme[4] = 500;
+  EXPECT_EQ(prepareSchemePaint(scheme).buttons, 500);
+}
+
+TEST(SchemePaintRules, DefaultInAnyCaseKeepsTheDesignedFormBackground) {
+  ColourScheme scheme;
+  scheme.name = "MyDefault.col";
+  EXPECT_FALSE(prepareSchemePaint(scheme).formBrush);
+  EXPECT_FALSE(paintsFormBrush("default.col"));
+  EXPECT_TRUE(paintsFormBrush("xp.col"));
+}
+
+}  // namespace
+}  // namespace combwise
