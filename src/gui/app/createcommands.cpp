@@ -32,6 +32,7 @@ void MainWindow::createPuzzle() {
   m_creating = true;
   m_cancelRequested = false;
   m_cancelButton->show();
+  m_cancelAction->setEnabled(true);
   setStatus("Creating a puzzle ...");
 
   GeneratorHooks hooks;
@@ -42,6 +43,7 @@ void MainWindow::createPuzzle() {
                                              m_random, hooks, kTemporaryPuzzleFile);
   m_creating = false;
   m_cancelButton->hide();
+  m_cancelAction->setEnabled(false);
   setCreateEnabled(true);
   QApplication::restoreOverrideCursor();
 

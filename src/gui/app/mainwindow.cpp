@@ -262,17 +262,14 @@ void MainWindow::buildMenus() {
   m_puzzleMenu->addSeparator();
   add(m_puzzleMenu, "mnuzoomin", "Zoom &in", [this] { zoomClicked(1); }, QKeySequence::ZoomIn);
   add(m_puzzleMenu, "mnuzoomout", "Zoom &out", [this] { zoomClicked(0); }, QKeySequence::ZoomOut);
-  add(m_puzzleMenu, "mnuzoomreset", "Reset &zoom", [this] { zoomClicked(2); }, QKeySequence(Qt::CTRL | Qt::Key_0));
-}
-
-void MainWindow::keyPressEvent(QKeyEvent* event) {
   // Escape stops a puzzle being made; at other times it belongs to the board.
-  if (event->key() == Qt::Key_Escape && m_creating) {
-    cancelCreation();
-    event->accept();
-    return;
-  }
-  QMainWindow::keyPressEvent(event);
+  m_cancelAction = new QAction("Cancel puzzle creation", this);
+  m_cancelAction->setObjectName("mnucancel");
+  m_cancelAction->setShortcut(Qt::Key_Escape);
+  m_cancelAction->setEnabled(false);
+  addAction(m_cancelAction);
+  connect(m_cancelAction, &QAction::triggered, this, &MainWindow::cancelCreation);
+  add(m_puzzleMenu, "mnuzoomreset", "Reset &zoom", [this] { zoomClicked(2); }, QKeySequence(Qt::CTRL | Qt::Key_0));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

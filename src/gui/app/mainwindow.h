@@ -110,7 +110,6 @@ class MainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   // Construction (mainwindow.cpp).
@@ -172,6 +171,7 @@ class MainWindow : public QMainWindow {
   BoxControl* m_createButton = nullptr;
   BoxControl* m_cancelButton = nullptr;
   QAction* m_createAction = nullptr;
+  QAction* m_cancelAction = nullptr;  // Escape while a puzzle is made
   std::array<QAction*, Settings::kRecentFiles> m_recentActions{};
   QAction* m_recentSeparator = nullptr;
   QMenu* m_fileMenu = nullptr;
