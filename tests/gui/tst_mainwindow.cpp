@@ -76,6 +76,7 @@ class TestMainWindow : public QObject {
       QCOMPARE(game.status(), QString("Ready ..."));
       QCOMPARE(game.find<QLabel>("lblcounter")->text(), QString("p# 7 of 10"));
       QCOMPARE(game.find<QLabel>("lblsize")->text(), QString("7"));
+      QCOMPARE(game.find<QLabel>("lblfile")->text(), QString("ten.txt"));
     }
     {
       Game game;

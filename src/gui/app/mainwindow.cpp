@@ -177,6 +177,7 @@ void MainWindow::buildControls() {
   m_clueFrame->setMinimumWidth(300);
   auto* clueGrid = new QGridLayout(m_clueFrame);
   clueGrid->setContentsMargins(6, 6, 6, 6);
+  clueGrid->setSpacing(0);  // the solution's word lists cover the clues wholly
   m_clueViewport = new ClueViewport(m_clueFrame);
   m_clues = new CluePicture(m_puzzle, m_clueViewport);
   m_clueViewport->setPicture(m_clues);

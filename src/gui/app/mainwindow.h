@@ -5,6 +5,7 @@
 // and puzzle creation.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPointer>
 #include <array>
@@ -155,6 +156,7 @@ class MainWindow : public QMainWindow {
   bool m_startedUp = false;
   bool m_cancelRequested = false;
   bool m_creating = false;
+  QElapsedTimer m_pumpClock;  // when pending events last ran
 
   QFrame* m_boardFrame = nullptr;  // Picture5
   BoardPicture* m_picture = nullptr;

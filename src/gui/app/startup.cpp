@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
@@ -31,6 +32,14 @@ class BusyPointer {
   BusyPointer(const BusyPointer&) = delete;
   BusyPointer& operator=(const BusyPointer&) = delete;
 };
+
+// A file's name on a status line label, its full path as the tip.
+void showFileName(QLabel* label, const std::string& path) {
+  const QString name = QString::fromStdString(std::string(fileNameOf(path)));
+  label->setText(name);
+  label->setToolTip(QString::fromStdString(path));
+  label->setMinimumWidth(label->fontMetrics().horizontalAdvance(name) + 12);
+}
 
 }  // namespace
 
@@ -101,8 +110,7 @@ void MainWindow::readDictionary(const std::string& path) {
   const Status read = m_maker.loadDictionary(
       path, [this](const std::string& text) { setStatus(QString::fromStdString(text)); }, [this] { pumpEvents(); });
   m_settings.dictionaryPath = path;
-  m_dictionaryLabel->setText(QString::fromStdString(std::string(fileNameOf(path))));
-  m_dictionaryLabel->setToolTip(QString::fromStdString(path));
+  showFileName(m_dictionaryLabel, path);
   if (!read.ok()) setStatus(QString::fromStdString(read.error));
   setCreateEnabled(true);
 }
@@ -146,7 +154,13 @@ ClueSource MainWindow::clueSource() {
   return ClueSource{&m_meanings, m_programFolder + "mean3456.txt", [this] { pumpEvents(); }};
 }
 
-void MainWindow::pumpEvents() { QCoreApplication::processEvents(); }
+void MainWindow::pumpEvents() {
+  // Long loops call this for every line or try; letting events run every
+  // few milliseconds keeps the window as responsive at a fraction of the cost.
+  if (m_pumpClock.isValid() && m_pumpClock.elapsed() < 15) return;
+  QCoreApplication::processEvents();
+  m_pumpClock.start();
+}
 
 bool MainWindow::showPuzzle(const std::string& path, int n) {
   const PuzzleReadResult read = readPuzzle(path, n, m_board, m_puzzle, clueSource());
@@ -163,8 +177,7 @@ void MainWindow::puzzleShown(const PuzzleReadResult& read) {
   if (read.rebuilt || m_layout.CellX[1][1] == 0 || m_board.size() != m_laidOutSize) fitBoard();
   if (!read.clues.ok()) setStatus(QString::fromStdString(read.clues.error));
   m_counter->setText(QString::fromStdString(positionText(m_puzzle.PuzzleNumber, m_puzzle.PuzzleCount)));
-  m_fileLabel->setText(QString::fromStdString(std::string(fileNameOf(m_puzzle.CollectionPath))));
-  m_fileLabel->setToolTip(QString::fromStdString(m_puzzle.CollectionPath));
+  showFileName(m_fileLabel, m_puzzle.CollectionPath);
   m_sizeLabel->setText(QString::fromStdString(NumberText(m_puzzle.PuzzleSize)));
 
   const WordListLines words = wordListLines(m_puzzle);
