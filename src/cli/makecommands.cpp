@@ -32,7 +32,7 @@ constexpr const char* kCreateHelp =
     "  --dictionary PATH the word list (default: english3.txt in the program folder)\n"
     "  --meanings PATH   the meanings file (default: mean3456.txt in the program folder)\n"
     "  --max-tries T     tries for one puzzle before the dictionary is judged unable\n"
-    "                    to make puzzles of the size (default 200000; the game's\n"
+    "                    to make puzzles of the size (default 20000; the game's\n"
     "                    dictionary needs far fewer at every size)\n";
 
 constexpr const char* kBatchHelp =

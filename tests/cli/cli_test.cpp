@@ -90,6 +90,74 @@ TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListing) {
   EXPECT_EQ(lines[4].substr(0, 5) + lines[19].substr(0, 5), " 01.  07. ");
 }
 
+TEST(CliOutputs, AnInputIsNeverOverwrittenAndAnExistingListingNeedsForce) {
+  TempFolder temp;
+  const std::string collection = temp.file("mine.txt");
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "3", "--seed", "4", "--output", collection}).status, 0);
+  const std::string before = TempFolder::contentOf(collection);
+  const CliRun overInput = cli({"clues", collection, "3", "--output", temp.folder() + "./mine.txt"});
+  EXPECT_EQ(overInput.status, 1);
+  EXPECT_THAT(overInput.err, HasSubstr("is an input of this command"));
+  const CliRun intoDictionary = cli({"create", "--size", "7", "--dictionary", collection, "--output", collection});
+  EXPECT_EQ(intoDictionary.status, 1);
+  EXPECT_EQ(TempFolder::contentOf(collection), before);
+
+  const std::string listing = temp.file("clues.txt");
+  ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}).status, 0);
+  const CliRun again = cli({"clues", collection, "2", "--output", listing});
+  EXPECT_EQ(again.status, 1);
+  EXPECT_THAT(again.err, HasSubstr(listing + " exists; give --force to replace it"));
+  EXPECT_EQ(cli({"clues", collection, "2", "--output", listing, "--force"}).status, 0);
+  EXPECT_THAT(TempFolder::contentOf(listing), HasSubstr("Puz# 2:"));
+}
+
+TEST(CliCreate, ADictionaryThatCannotMakeTheSizeStopsAtMaxTriesAndAppendsNothing) {
+  TempFolder temp;
+  const auto shipped = *readLines(std::string(COMBWISE_BIN_DIR) + "/english3.txt");
+  const std::string head = temp.file("head.txt"), copies = temp.file("copies.txt"), garbage = temp.file("garbage.txt");
+  ASSERT_TRUE(writeLines(head, std::vector(shipped.begin(), shipped.begin() + 300), WriteMode::Truncate));
+  std::vector<std::string> repeated;
+  for (const char* word : {"TEA", "SEAT", "TEARS", "STREAM"}) repeated.insert(repeated.end(), 100, word);
+  ASSERT_TRUE(writeLines(copies, repeated, WriteMode::Truncate));
+  std::string bytes;
+  for (int i = 0; i < 5000; ++i) bytes += static_cast<char>((i * 7919) % 256);
+  ASSERT_TRUE(replaceFileContent(garbage, bytes));
+  const std::string output = temp.file("out.txt"), existing = temp.file("existing.txt");
+  ASSERT_TRUE(replaceFileContent(existing, "kept"));
+  for (const std::string& dictionary : {head, copies, garbage}) {
+    for (const std::string& target : {output, existing}) {
+      const CliRun run = cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", dictionary, "--output", target});
+      EXPECT_EQ(run.status, 1) << dictionary;
+      EXPECT_THAT(run.err, HasSubstr(dictionary)) << run.err;
+    }
+  }
+  const CliRun headRun = cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", head, "--output", output});
+  EXPECT_THAT(headRun.err, HasSubstr("cannot make puzzles of size 7: no puzzle after 40 tries"));
+  EXPECT_FALSE(std::filesystem::exists(output));
+  EXPECT_EQ(TempFolder::contentOf(existing), "kept");
+  EXPECT_THAT(cli({"create", "--size", "7", "--dictionary", garbage, "--output", output}).err,
+              HasSubstr("are not words of 3 to 6 letters A-Z and were skipped"));
+}
+
+TEST(CliArguments, EmptyHomeEmptyPathsRepeatedOptionsAndLimitsAreSaid) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt");
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "2", "--seed", "1", "--output", collection}).status, 0);
+  EXPECT_EQ(cli({"show", collection}, "").status, 2);
+  std::ostringstream out, err;
+  EXPECT_EQ(runCli({"--home", "a", "--home", "b", "show", collection}, out, err), 2);
+  EXPECT_THAT(err.str(), HasSubstr("--home is given more than once"));
+  EXPECT_THAT(cli({"show", ""}).err, HasSubstr("an empty argument names no file"));
+  EXPECT_THAT(cli({"create", "--size", "7", "--size", "10", "--output", collection}).err,
+              HasSubstr("--size is given more than once"));
+  EXPECT_THAT(cli({"create", "--size", "7", "--output", ""}).err, HasSubstr("--output needs a value"));
+  EXPECT_THAT(cli({"show", collection, "900"}).err,
+              HasSubstr(collection + ": there is no puzzle 900: N must be from 1 to 2, or -1 for the last"));
+  const CliRun missing = cli({"show", temp.file("none.txt")});
+  EXPECT_EQ(missing.err, "combwise-cli show: Cannot open " + temp.file("none.txt") + ": No such file or directory\n");
+  EXPECT_THAT(cli({"check", temp.folder()}).err, HasSubstr(temp.folder() + ": it is a folder"));
+}
+
 TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
   TempFolder temp;
   const std::string collection = temp.file("set.txt");
@@ -108,6 +176,22 @@ TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
   for (const char* line : {":2: hexagon", ":3: blank line", ":4: word field 1 has no \",\"", ":5: slot 14: QQQ"})
     EXPECT_THAT(checked.out, HasSubstr(collection + line));
   EXPECT_THAT(checked.out, HasSubstr("5 puzzles checked, 4 have problems"));
+  // show says the same of the same lines.
+  EXPECT_THAT(cli({"show", collection, "4"}).err, HasSubstr(collection + ":4: word field 1 has no \",\""));
+  EXPECT_THAT(cli({"show", collection, "3"}).err, HasSubstr(collection + ":3: blank line"));
+}
+
+TEST(CliCheck, AnUnfitDictionaryOrMeaningsFileIsReportedOnce) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt");
+  ASSERT_EQ(cli({"create", "--size", "10", "--count", "3", "--seed", "2", "--output", collection}).status, 0);
+  const std::string sevens = temp.file("sevens.txt");
+  ASSERT_TRUE(writeLines(sevens, {"SEVENTH", "LETTERS"}, WriteMode::Truncate));
+  ASSERT_TRUE(writeLines(temp.file("mean3456.txt"), {"ZOO:a park", "TEA:a drink"}, WriteMode::Truncate));
+  const CliRun checked = cli({"check", collection, "--dictionary", sevens}, temp.folder());
+  EXPECT_EQ(checked.out, "3 puzzles checked, 0 have problems\n");
+  EXPECT_THAT(checked.err, HasSubstr(sevens + " holds no words of 3 to 6 letters (words not checked)"));
+  EXPECT_THAT(checked.err, HasSubstr("is not sorted (line 2 belongs before line 1)"));
 }
 
 TEST(CliCollections, RandomizeWritesBesideAndBatchAppendsToTheProgramFoldersFile) {

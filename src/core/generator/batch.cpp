@@ -28,7 +28,8 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
   if (!Board::isValidSize(options.size)) return Status::failure("There is no puzzle size " + NumberText(options.size));
   if (options.count <= 0) return Status::success();
   if (!PuzzleGenerator(dictionary, meanings).canGenerate())
-    return Status::failure("The dictionary needs at least two words of each length from 3 to 6 letters");
+    return Status::failure("The dictionary " + (options.dictionaryPath.empty() ? "in use" : options.dictionaryPath) +
+                           " needs at least two words of each length from 3 to 6 letters");
 
   const int cores = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
   const int jobs = std::clamp(options.jobs > 0 ? options.jobs : cores, 1, options.count);

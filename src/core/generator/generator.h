@@ -39,7 +39,7 @@ struct GeneratorHooks {
 // Tries that the game's own dictionary never needs for one puzzle of any
 // size, with a wide margin, so reaching them says the dictionary cannot make
 // puzzles of that size.
-inline constexpr long long kDefaultMaxTries = 200000;
+inline constexpr long long kDefaultMaxTries = 20000;
 
 // How the last generate() ended.
 enum class GenerateEnd { Made, CannotGenerate, Stopped, GaveUp };

@@ -73,7 +73,23 @@ TEST(MeaningsFile, TheMeaningNumberPicksTheLineAndAnythingElseGivesNoClue) {
   EXPECT_FALSE(meanings.loaded());
 }
 
-TEST(DictionaryFile, RandomBytesFillOnlyThePoolsOfMatchingLength) {
+TEST(MeaningsFile, AnEmptyUnsortedOrClueLessFileGivesOneWarning) {
+  TempFolder folder;
+  const std::string path = folder.file("mean3456.txt");
+  const auto warningFor = [&](const std::vector<std::string>& lines) {
+    EXPECT_TRUE(writeLines(path, lines, WriteMode::Truncate));
+    Meanings meanings;
+    EXPECT_TRUE(meanings.read(path).ok());
+    return meanings.warning();
+  };
+  EXPECT_EQ(warningFor({}), path + " holds no meanings: every clue will be empty");
+  EXPECT_EQ(warningFor({"just", "words"}), path + " holds no WORD:clue lines: every clue will be empty");
+  EXPECT_EQ(warningFor({"TEA:a drink", "SEAT:a chair", "ZOO:a park"}),
+            path + " is not sorted (line 2 belongs before line 1): clues may not be found");
+  EXPECT_EQ(warningFor({"SEAT:a chair", "TEA:a drink", "TEA:leaves"}), "");
+}
+
+TEST(DictionaryFile, RandomBytesFillThePoolsOnlyWithWordsOfTheirLength) {
   TempFolder folder;
   std::mt19937 engine(5);
   for (int round = 0; round < 200; ++round) {
@@ -86,7 +102,10 @@ TEST(DictionaryFile, RandomBytesFillOnlyThePoolsOfMatchingLength) {
     Dictionary dictionary;
     ASSERT_TRUE(readDictionary(folder.file("d.txt"), dictionary).ok());
     for (int length = 3; length <= 6; ++length) {
-      for (const auto& word : dictionary.pool(length)->items()) ASSERT_EQ(word.size(), std::size_t(length));
+      for (const auto& word : dictionary.pool(length)->items()) {
+        ASSERT_EQ(word.size(), std::size_t(length));
+        ASSERT_EQ(word.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), std::string::npos) << word;
+      }
     }
     EXPECT_EQ(dictionary.SixLetterKeys.size(), dictionary.Words6.ListCount());
     Meanings meanings;

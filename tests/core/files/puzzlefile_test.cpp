@@ -5,6 +5,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+#include <sys/stat.h>
+
 #include <random>
 #include <tuple>
 
@@ -165,6 +168,52 @@ TEST_F(CollectionFile, CluesComeFromTheMeaningsAndTheWordListsSkipEmptySlots) {
   EXPECT_FALSE(missing.clues.ok());
   EXPECT_EQ(state.ClueTexts[1], "");
   EXPECT_EQ(state.WordSlots[1], "TEAR");
+}
+
+TEST_F(CollectionFile, LinesMissingTheirFieldsOrTooLongForAnyPuzzleLoadNothing) {
+  ASSERT_TRUE(loadPuzzleLine(puzzleLine(filledPuzzle(7, 6)), board, state, {}).loaded());
+  const PuzzleState before = state;
+  for (const std::string line : {"7;", "22;;", "10;ABC;;;", "7"}) {
+    EXPECT_EQ(loadPuzzleLine(line, board, state, {}).outcome, ReadOutcome::Malformed) << line;
+    expectSamePuzzle(state, before);
+  }
+  EXPECT_EQ(loadPuzzleLine("7;", board, state, {}).message, "the line ends before its word fields");
+  EXPECT_EQ(loadPuzzleLine("22;;", board, state, {}).message, "the line holds no words");
+
+  // A 20 MB line is refused before its dot codes are expanded (they would
+  // make it 420 MB), and many empty fields are not kept one by one.
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const long startKb = usage.ru_maxrss;
+  const std::string huge = "7;" + std::string(20'000'000, '#') + ";TEAR,1;";
+  EXPECT_EQ(loadPuzzleLine(huge, board, state, {}).message, "the line is too long for any puzzle");
+  const std::string fields = "7;A;TEAR,1;" + std::string(60'000, ';');
+  EXPECT_TRUE(loadPuzzleLine(fields, board, state, {}).loaded());
+  getrusage(RUSAGE_SELF, &usage);
+  EXPECT_LT(usage.ru_maxrss - startKb, 100'000);
+}
+
+TEST_F(CollectionFile, PipesAndFoldersAreRefusedWithTheirCauseNotCountedAsEmpty) {
+  const std::string pipe = folder.file("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(countPuzzles(pipe), 0);  // without opening it: that would wait for a writer
+  state.PuzzleCount = 0;
+  const auto refused = readPuzzle(pipe, 1, board, state, {});
+  EXPECT_EQ(refused.outcome, ReadOutcome::Unreadable);
+  EXPECT_EQ(refused.message, "Cannot open " + pipe + ": it is not a regular file");
+  EXPECT_EQ(readPuzzle(folder.folder(), 1, board, state, {}).message, "Cannot open " + folder.folder() + ": it is a folder");
+  const std::string missing = folder.file("missing.txt");
+  EXPECT_EQ(readPuzzle(missing, 1, board, state, {}).message, "Cannot open " + missing + ": No such file or directory");
+}
+
+TEST_F(CollectionFile, SavingAfterALastLineWithoutItsEndStartsANewLine) {
+  const std::string path = folder.file("set.txt");
+  const std::string first = puzzleLine(filledPuzzle(7, 1));
+  ASSERT_TRUE(replaceFileContent(path, first));  // no CR LF at its end
+  const PuzzleState second = filledPuzzle(10, 2);
+  ASSERT_TRUE(writePuzzle(path, WriteMode::Append, second).ok());
+  EXPECT_EQ(TempFolder::contentOf(path), first + "\r\n" + puzzleLine(second) + "\r\n");
+  EXPECT_EQ(countPuzzles(path), 2);
 }
 
 TEST(PuzzleLineFuzz, RandomLinesLoadSoundlyOrChangeNothing) {

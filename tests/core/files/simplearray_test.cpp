@@ -4,7 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <initializer_list>
+#include <random>
+#include <vector>
 
 #include "core/files/textfile.h"
 #include "support/tempfolder.h"
@@ -107,6 +110,62 @@ TEST(WordListErrors, OutOfRangeAccessChangesNothingReadsEmptyAndIsLogged) {
     EXPECT_THAT((*lines)[i], ::testing::HasSubstr(std::string("\"-1\",\"") + clsSimpleArray::kIndexError +
                                                   "\",\"clsSimpleArray\",\"" + members[i] + "\""));
   }
+}
+
+TEST(WordListGrowth, StorageGrowsByAFactorSoLongListsLoadInLinearTime) {
+  clsSimpleArray list;
+  int growths = 0;
+  std::size_t capacity = 0;
+  for (int i = 0; i < 300000; ++i) {
+    list.AddItem("WORD:clue");
+    if (list.items().capacity() != capacity) {
+      capacity = list.items().capacity();
+      ++growths;
+    }
+  }
+  EXPECT_EQ(list.ListCount(), 300000);
+  EXPECT_GE(list.items().capacity(), 101u);
+  EXPECT_LT(growths, 30);  // steps of 100 would copy the list 3000 times
+}
+
+// Every way of splitting the text, one table cell per pair of positions.
+bool referenceMatch(std::string_view text, std::string_view pattern) {
+  std::vector<std::vector<char>> can(pattern.size() + 1, std::vector<char>(text.size() + 1, 0));
+  can[pattern.size()][text.size()] = 1;
+  for (std::size_t p = pattern.size(); p-- > 0;) {
+    for (std::size_t t = text.size() + 1; t-- > 0;) {
+      if (pattern[p] == '*') {
+        can[p][t] = can[p + 1][t] || (t < text.size() && can[p][t + 1]);
+      } else if (t < text.size()) {
+        const char token = pattern[p];
+        const bool one = token == '?' || (token == '#' && text[t] >= '0' && text[t] <= '9') || token == text[t];
+        can[p][t] = one && can[p + 1][t + 1];
+      }
+    }
+  }
+  return can[0][0];
+}
+
+TEST(WordListSearch, PatternsWithManyStarsMatchQuicklyAndAsEverySplitWould) {
+  // Trying every split of every "*" took 13 s here; 12 stars took 90 s.
+  const std::string text(40, 'A');
+  std::string pattern;
+  for (int i = 0; i < 10; ++i) pattern += "*A";
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_FALSE(matchesWildcard(text, pattern + "*B"));
+  EXPECT_TRUE(matchesWildcard(text + "B", pattern + "*B"));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+
+  std::mt19937 engine(7);
+  const std::string letters = "AB1*?#";
+  for (int round = 0; round < 20000; ++round) {
+    std::string t, p;
+    for (auto n = engine() % 8; n > 0; --n) t += letters[engine() % 3];
+    for (auto n = engine() % 8; n > 0; --n) p += letters[engine() % letters.size()];
+    ASSERT_EQ(matchesWildcard(t, p), referenceMatch(t, p)) << t << " ~ " << p;
+  }
+  EXPECT_TRUE(matchesWildcard("TEARS", "*[!X]R[A-Z]"));
+  EXPECT_FALSE(matchesWildcard("TEARS", "*[XY]*"));
 }
 
 }  // namespace

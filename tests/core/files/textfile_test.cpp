@@ -5,6 +5,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
 #include <fstream>
 
 #include "support/tempfolder.h"
@@ -48,6 +53,76 @@ TEST(TextFile, WritesCrLfAppendsAndReplacesWithoutLeavingATemporaryFile) {
   EXPECT_EQ(TempFolder::contentOf(path), "new\r\n");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(temp.folder()), {}), 1);
   EXPECT_FALSE(replaceFileContent(temp.file("no/folder.txt"), "x"));
+}
+
+// Lets a file grow to `bytes` at most while it lives: writes beyond fail the
+// way they fail on a full disk.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &m_old);
+    m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit = m_old;
+    limit.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &m_old);
+    std::signal(SIGXFSZ, m_oldHandler);
+  }
+
+ private:
+  rlimit m_old{};
+  void (*m_oldHandler)(int) = nullptr;
+};
+
+TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItWas) {
+  TempFolder temp;
+  const std::string path = temp.file("set.txt");
+  putFile(path, "one\r\ntwo");
+  ASSERT_TRUE(appendLines(path, {"three"}).ok());
+  ASSERT_TRUE(appendLines(path, {"four"}).ok());
+  EXPECT_EQ(TempFolder::contentOf(path), "one\r\ntwo\r\nthree\r\nfour\r\n");
+
+  const std::string before = TempFolder::contentOf(path);
+  const std::string fresh = temp.file("fresh.txt");
+  {
+    const FileSizeLimit full(before.size() + 10);
+    const Status failed = appendLines(path, {std::string(100, 'x')});
+    EXPECT_EQ(failed.error, "Cannot write " + path + ": File too large");
+    LineAppender appender(fresh);
+    EXPECT_TRUE(appender.add("short").ok());
+    EXPECT_FALSE(appender.add(std::string(100, 'y')).ok());
+  }
+  EXPECT_EQ(TempFolder::contentOf(path), before);
+  EXPECT_EQ(TempFolder::contentOf(fresh), "short\r\n");  // what was written before the failure stays
+
+  // A run that writes nothing leaves no new file behind.
+  LineAppender unused(temp.file("unused.txt"));
+  ASSERT_TRUE(unused.open().ok());
+  EXPECT_TRUE(unused.close().ok());
+  EXPECT_FALSE(std::filesystem::exists(temp.file("unused.txt")));
+  EXPECT_EQ(appendLines(temp.folder(), {"x"}).error, "Cannot write " + temp.folder() + ": it is a folder");
+  EXPECT_EQ(appendLines(temp.file("no/set.txt"), {"x"}).error,
+            "Cannot write " + temp.file("no/set.txt") + ": No such file or directory");
+}
+
+TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCause) {
+  TempFolder temp;
+  const std::string pipe = temp.file("pipe"), file = temp.file("set.txt");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  putFile(file, "x\r\n");
+  EXPECT_EQ(unreadableReason(temp.file("none.txt")), "Cannot open " + temp.file("none.txt") + ": No such file or directory");
+  EXPECT_EQ(unreadableReason(temp.folder()), "Cannot open " + temp.folder() + ": it is a folder");
+  EXPECT_EQ(unreadableReason(pipe, true), "Cannot open " + pipe + ": it is not a regular file");
+  EXPECT_EQ(unreadableReason(pipe), std::nullopt);  // read once, a pipe is fine
+  EXPECT_EQ(unreadableReason(""), "Cannot open a file without a name");
+  if (geteuid() != 0) {  // root reads anything
+    ASSERT_EQ(chmod(file.c_str(), 0), 0);
+    EXPECT_EQ(unreadableReason(file), "Cannot open " + file + ": Permission denied");
+  }
+  EXPECT_TRUE(sameFile(file, temp.folder() + "./set.txt"));
+  EXPECT_FALSE(sameFile(file, temp.file("none.txt")));
 }
 
 }  // namespace

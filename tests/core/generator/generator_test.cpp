@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <set>
 
 #include "core/files/textfile.h"
+#include "core/generator/batch.h"
 #include "core/generator/letters.h"
 #include "core/model/text.h"
 #include "support/gamedata.h"
@@ -140,6 +142,71 @@ TEST(Letters, ShuffleKeepsTheLettersAndRemainingLettersTakesEachUsedLetterOnce) 
   EXPECT_EQ(random.drawCount(), 50u * 12u);  // two draws per letter
   EXPECT_EQ(remainingLetters("SEATED", "EEX"), "SATD");
   EXPECT_EQ(remainingLetters("TEA", ""), "TEA");
+}
+
+// Two words of every length: the pools pass the first check, yet no
+// puzzle can ever be made from them.
+Dictionary handfulOfWords(const TempFolder& folder) {
+  const std::string path = folder.file("handful.txt");
+  EXPECT_TRUE(writeLines(path, {"TEA", "EAT", "SEAT", "EATS", "TEARS", "STARE", "MASTER", "STREAM"},
+                         WriteMode::Truncate));
+  Dictionary dictionary;
+  EXPECT_TRUE(readDictionary(path, dictionary).ok());
+  return dictionary;
+}
+
+TEST(Generator, ADictionaryThatCanNeverMakeTheSizeGivesUpAfterMaxTriesAndTheStopHookEndsATry) {
+  TempFolder folder;
+  const Dictionary dictionary = handfulOfWords(folder);
+  PuzzleGenerator generator(dictionary, gameMeanings());
+  ASSERT_TRUE(generator.canGenerate());
+  Board board;
+  PuzzleState state;
+  setUpPuzzle(board, state, 7);
+  RandomSource random = RandomSource::seeded(1);
+  std::vector<std::string> resets;
+  GeneratorHooks hooks;
+  hooks.status = [&](const std::string& text) {
+    if (text.starts_with("Reset")) resets.push_back(text);
+  };
+  hooks.maxTries = 30;
+  EXPECT_FALSE(generator.generate(board, state, random, hooks));
+  EXPECT_EQ(generator.lastEnd(), GenerateEnd::GaveUp);
+  ASSERT_EQ(resets.size(), 30u);
+  EXPECT_EQ(resets.front(), "Reset ... 1");
+  EXPECT_EQ(resets.back(), "Reset ... 30");
+
+  int asked = 0;
+  hooks.maxTries = 0;
+  hooks.stop = [&] { return ++asked > 3; };
+  EXPECT_FALSE(generator.generate(board, state, random, hooks));
+  EXPECT_EQ(generator.lastEnd(), GenerateEnd::Stopped);
+  EXPECT_EQ(gaveUpMessage("d.txt", 7, 30), "The dictionary d.txt cannot make puzzles of size 7: no puzzle after 30 tries");
+}
+
+TEST(PuzzleLines, RunsStreamWhateverTheCountAndEndWhenNoPuzzleCanBeMade) {
+  LineRunOptions options;
+  options.size = 7;
+  options.count = INT_MAX;  // a line slot per puzzle would be tens of gigabytes
+  options.jobs = 2;
+  options.seed = 3;
+  std::vector<std::string> lines;
+  const Status stopped = makePuzzleLines(gameDictionary(), gameMeanings(), options, [&](int, const std::string& line) {
+    lines.push_back(line);
+    return lines.size() < 3;
+  });
+  EXPECT_EQ(stopped.error, "Stopped after 3 puzzles");
+  EXPECT_EQ(lines.size(), 3u);
+
+  TempFolder folder;
+  const Dictionary dictionary = handfulOfWords(folder);
+  options.count = 5;
+  options.maxTries = 20;
+  options.dictionaryPath = "handful.txt";
+  const std::string output = folder.file("out.txt");
+  const Status gaveUp = appendPuzzleLines(output, dictionary, gameMeanings(), options);
+  EXPECT_EQ(gaveUp.error, "The dictionary handful.txt cannot make puzzles of size 7: no puzzle after 20 tries");
+  EXPECT_FALSE(std::filesystem::exists(output));  // no empty file left behind
 }
 
 }  // namespace
