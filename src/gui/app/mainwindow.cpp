@@ -47,6 +47,10 @@ MainWindow::MainWindow(std::string programFolder, WindowServices services, QWidg
     m_ownFiles = std::make_unique<DialogFileChooser>(this);
     m_files = m_ownFiles.get();
   }
+  // The word lists' own errors are shown as well as logged.
+  m_errorLog.setShow([this](const std::string&, const std::string& message) {
+    m_prompter->ShowMessage(QString::fromStdString(message), "vbok+vbcritical");
+  });
   buildControls();
   buildMenus();
   startUp();
@@ -228,12 +232,12 @@ void MainWindow::buildMenus() {
     connect(action, &QAction::triggered, this, slot);
     return action;
   };
-  add(m_fileMenu, "mnuloaddict", "Load a &Dictionary...", &MainWindow::loadDictionaryCommand);
-  add(m_fileMenu, "mnuloadpuzfile", "&Load Puzzle file...", &MainWindow::loadPuzzleFile, QKeySequence::Open);
-  QAction* options = m_fileMenu->addAction("&Edit Options...");
+  add(m_fileMenu, "mnuloaddict", "Load a Dictionary", &MainWindow::loadDictionaryCommand);
+  add(m_fileMenu, "mnuloadpuzfile", "Load Puzzle file", &MainWindow::loadPuzzleFile, QKeySequence::Open);
+  QAction* options = m_fileMenu->addAction("Edit Options");
   options->setObjectName("mnuoptions");
-  add(m_fileMenu, "mnusaveopts", "Save &Options", &MainWindow::saveOptions);
-  QAction* print = m_fileMenu->addAction("&Print Puzzle File...");
+  add(m_fileMenu, "mnusaveopts", "Save Options", &MainWindow::saveOptions);
+  QAction* print = m_fileMenu->addAction("Print Puzzle File");
   print->setObjectName("mnuprint");
   print->setShortcut(QKeySequence::Print);
   m_fileMenu->addSeparator();
@@ -246,15 +250,15 @@ void MainWindow::buildMenus() {
   m_recentSeparator = m_fileMenu->addSeparator();
   m_recentSeparator->setObjectName("mnuoldfiles5");
   m_recentSeparator->setVisible(false);
-  add(m_fileMenu, "mnuhelp", "&Help", &MainWindow::showHelp, QKeySequence::HelpContents);
-  add(m_fileMenu, "mnuabout", "&About", &MainWindow::showAbout);
-  add(m_fileMenu, "cmdexitx", "E&xit", &MainWindow::exitCommand, QKeySequence::Quit);
+  add(m_fileMenu, "mnuhelp", "Help", &MainWindow::showHelp, QKeySequence::HelpContents);
+  add(m_fileMenu, "mnuabout", "About", &MainWindow::showAbout);
+  add(m_fileMenu, "cmdexitx", "Exit", &MainWindow::exitCommand, QKeySequence::Quit);
 
   m_puzzleMenu = menuBar()->addMenu("&Puzzle");
   m_puzzleMenu->setObjectName("mnupuzzle");
-  m_createAction = add(m_puzzleMenu, "mnucreate", "&Create", &MainWindow::createPuzzle, QKeySequence::New);
-  add(m_puzzleMenu, "mnusave", "&Save...", &MainWindow::savePuzzle, QKeySequence::Save);
-  add(m_puzzleMenu, "mnureset", "&Reset", &MainWindow::resetPuzzle);
+  m_createAction = add(m_puzzleMenu, "mnucreate", "Create", &MainWindow::createPuzzle, QKeySequence::New);
+  add(m_puzzleMenu, "mnusave", "Save", &MainWindow::savePuzzle, QKeySequence::Save);
+  add(m_puzzleMenu, "mnureset", "Reset", &MainWindow::resetPuzzle);
   m_puzzleMenu->addSeparator();
   add(m_puzzleMenu, "mnuprevious", "&Previous puzzle", [this] { arrowClicked(0, 1); }, QKeySequence(Qt::Key_PageUp));
   add(m_puzzleMenu, "mnunext", "&Next puzzle", [this] { arrowClicked(2, 1); }, QKeySequence(Qt::Key_PageDown));
