@@ -6,6 +6,7 @@
 
 #include "core/files/browsing.h"
 #include "core/model/text.h"
+#include "gui/app/busypointer.h"
 #include "gui/app/mainwindow.h"
 #include "gui/play/boardpicture.h"
 #include "gui/ui/aboutform.h"
@@ -14,14 +15,6 @@
 
 namespace combwise {
 namespace {
-
-class BusyPointer {
- public:
-  BusyPointer() { QApplication::setOverrideCursor(Qt::BusyCursor); }
-  ~BusyPointer() { QApplication::restoreOverrideCursor(); }
-  BusyPointer(const BusyPointer&) = delete;
-  BusyPointer& operator=(const BusyPointer&) = delete;
-};
 
 QString text(const std::string& value) { return QString::fromStdString(value); }
 

@@ -3,8 +3,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QCoreApplication>
+#include <optional>
 
 #include "core/model/text.h"
+#include "gui/app/busypointer.h"
 #include "gui/app/clicklabel.h"
 #include "gui/app/mainwindow.h"
 #include "gui/play/boardpicture.h"
@@ -25,7 +27,7 @@ void MainWindow::createPuzzle() {
     m_prompter->ShowMessage(kLargePuzzleRefusal, "vbcritical+vbok");
     return;
   }
-  QApplication::setOverrideCursor(Qt::BusyCursor);
+  std::optional<BusyPointer> busy(std::in_place);
   m_picture->hideMarker();
   m_puzzle.SelRow = m_puzzle.SelCol = 0;
   setCreateEnabled(false);
@@ -45,7 +47,7 @@ void MainWindow::createPuzzle() {
   m_cancelButton->hide();
   m_cancelAction->setEnabled(false);
   setCreateEnabled(true);
-  QApplication::restoreOverrideCursor();
+  busy.reset();
 
   if (result.created()) {
     m_puzzle.PuzzleCount = 1;

@@ -15,6 +15,7 @@
 #include "core/files/browsing.h"
 #include "core/model/text.h"
 #include "gui/app/clicklabel.h"
+#include "gui/app/busypointer.h"
 #include "gui/app/mainwindow.h"
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
@@ -23,15 +24,6 @@
 
 namespace combwise {
 namespace {
-
-// The busy pointer for as long as it lives.
-class BusyPointer {
- public:
-  BusyPointer() { QApplication::setOverrideCursor(Qt::BusyCursor); }
-  ~BusyPointer() { QApplication::restoreOverrideCursor(); }
-  BusyPointer(const BusyPointer&) = delete;
-  BusyPointer& operator=(const BusyPointer&) = delete;
-};
 
 // A file's name on a status line label, its full path as the tip.
 void showFileName(QLabel* label, const std::string& path) {
