@@ -12,9 +12,7 @@ namespace {
 
 constexpr std::string_view kSchemeMark = ".col";
 
-int colourField(std::string_view field) {
-  return static_cast<int>(std::clamp<long long>(leadingWhole(field), 0, 255));
-}
+int colourField(std::string_view field) { return static_cast<int>(std::clamp<long long>(leadingWhole(field), 0, 255)); }
 
 SchemeLoad loadScheme(const std::string& schemeFile, const std::string& name, ColourScheme& scheme,
                       const DesignedColours& designed, std::string_view wordsBefore, const char* fallback) {

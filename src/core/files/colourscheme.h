@@ -32,9 +32,12 @@ struct ColourScheme {
   // Until a scheme is loaded the table holds "xp.col" as shipped, so a
   // missing scheme file still leaves readable windows.
   std::string name = "xp.col";
-  std::array<int, kColours> colours{rgb(0, 0, 0),       rgb(255, 255, 255), rgb(236, 233, 216), rgb(212, 208, 200),
-                                    rgb(244, 243, 238), rgb(255, 251, 235), rgb(0, 84, 227),    rgb(128, 128, 128),
-                                    rgb(0, 0, 0),       rgb(0, 0, 160),     rgb(255, 222, 128), rgb(0, 140, 0),
+  std::array<int, kColours> colours{rgb(0, 0, 0),       rgb(255, 255, 255),
+                                    rgb(236, 233, 216), rgb(212, 208, 200),
+                                    rgb(244, 243, 238), rgb(255, 251, 235),
+                                    rgb(0, 84, 227),    rgb(128, 128, 128),
+                                    rgb(0, 0, 0),       rgb(0, 0, 160),
+                                    rgb(255, 222, 128), rgb(0, 140, 0),
                                     rgb(200, 0, 0),     0};
 
   int& operator[](int index) { return colours.at(static_cast<std::size_t>(index)); }
@@ -70,7 +73,8 @@ using NextLine = std::function<std::optional<std::string>()>;
 // Reads lines until one equals `name` exactly, then up to 13 colour lines
 // into indices 0 to 12 of `colours`; the indices after a stop keep their
 // values. Never fails on any text.
-SchemeSearch readScheme(const NextLine& next, const std::string& name, std::array<int, ColourScheme::kColours>& colours);
+SchemeSearch readScheme(const NextLine& next, const std::string& name,
+                        std::array<int, ColourScheme::kColours>& colours);
 // The same over a whole scheme file's text (CR LF or LF lines).
 SchemeSearch readSchemeText(std::string_view fileText, const std::string& name,
                             std::array<int, ColourScheme::kColours>& colours);
