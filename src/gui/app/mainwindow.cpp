@@ -19,6 +19,7 @@
 
 #include "core/play/entry.h"
 #include "gui/app/clicklabel.h"
+#include "gui/app/outputcommands.h"
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
 #include "gui/ui/boxcontrol.h"
@@ -275,6 +276,7 @@ void MainWindow::buildMenus() {
   addAction(m_cancelAction);
   connect(m_cancelAction, &QAction::triggered, this, &MainWindow::cancelCreation);
   add(m_puzzleMenu, "mnuzoomreset", "Reset &zoom", [this] { zoomClicked(2); }, QKeySequence(Qt::CTRL | Qt::Key_0));
+  new OutputCommands(*this);  // printing, copying and the collection tools; the window owns it
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

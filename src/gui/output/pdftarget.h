@@ -1,0 +1,34 @@
+// Printed pages written to a PDF file: what "Save as PDF" and the makers'
+// tool use, and how the tests print without a printer.
+#pragma once
+
+#include <QPainter>
+#include <QPdfWriter>
+#include <memory>
+
+#include "gui/output/printtarget.h"
+
+namespace combwise {
+
+class PdfTarget : public PrintTarget {
+ public:
+  // A4 pages at `resolution` dots per inch, drawn from the paper's edge.
+  explicit PdfTarget(QString path, int resolution = 600);
+  ~PdfTarget() override;
+
+  QString printerName() const override;
+  QString choosePrinter(QWidget* parent) override;
+  QPainter* beginDocument() override;
+  bool newPage() override;
+  bool endDocument() override;
+
+  const QString& path() const { return m_path; }
+
+ private:
+  QString m_path;
+  int m_resolution;
+  std::unique_ptr<QPdfWriter> m_writer;
+  std::unique_ptr<QPainter> m_painter;
+};
+
+}  // namespace combwise
