@@ -25,6 +25,9 @@ constexpr const char* kUsage =
     "  show       draw a puzzle and its clues in the terminal\n"
     "  clues      write a puzzle's clue listing to a text file\n"
     "  check      report the puzzles of a collection that are broken\n"
+#ifdef COMBWISE_CLI_PDF
+    "  pdf        print a range of puzzles, solutions and clues to a PDF file\n"
+#endif
     "\n"
     "Options:\n"
     "  --home DIR   the program folder (dictionary, meanings); default: the\n"
@@ -38,6 +41,9 @@ const std::map<std::string, Command>& commands() {
   static const std::map<std::string, Command> table = {
       {"create", runCreate}, {"batch", runBatch}, {"randomize", runRandomize},
       {"show", runShow},     {"clues", runClues}, {"check", runCheck},
+#ifdef COMBWISE_CLI_PDF
+      {"pdf", runPdf},
+#endif
   };
   return table;
 }

@@ -33,5 +33,6 @@ int runRandomize(Context& context, const Arguments& args);
 int runShow(Context& context, const Arguments& args);
 int runClues(Context& context, const Arguments& args);
 int runCheck(Context& context, const Arguments& args);
+int runPdf(Context& context, const Arguments& args);  // built with the game's library only
 
 }  // namespace combwise::cli

@@ -1,0 +1,119 @@
+// The pdf command: the pages the game's range printing makes (each puzzle's
+// sheet with its small solved board, and optionally its clue listing on the
+// next page), drawn by the game's own page code into a PDF file. Qt runs
+// offscreen, so no display is needed.
+#include <QGuiApplication>
+#include <memory>
+#include <ostream>
+
+#include "cli/args.h"
+#include "cli/commands.h"
+#include "core/files/config.h"
+#include "core/files/dictionary.h"
+#include "core/files/errorlog.h"
+#include "core/files/puzzlefile.h"
+#include "core/files/textfile.h"
+#include "core/model/text.h"
+#include "core/play/printrange.h"
+#include "gui/output/pdftarget.h"
+#include "gui/output/rangeprinter.h"
+#include "gui/play/boardpainter.h"
+
+namespace combwise::cli {
+namespace {
+
+constexpr const char* kPdfHelp =
+    "Usage: combwise-cli pdf FILE RANGE --output OUT.pdf [--clues]\n"
+    "\n"
+    "Prints puzzles of the collection FILE to the PDF file OUT.pdf, one page\n"
+    "each: the puzzle to solve with its solved board below, as the game\n"
+    "prints them. RANGE is N, N-M or all; a range ending past the last puzzle\n"
+    "stops there. --clues adds each puzzle's clue listing on the next page.\n"
+    "The letter font, its size and the border width come from the program\n"
+    "folder's configuration.\n";
+
+// A Qt application for the drawing, made offscreen unless one is running.
+class OffscreenQt {
+ public:
+  OffscreenQt() {
+    if (QCoreApplication::instance()) return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    m_app = std::make_unique<QGuiApplication>(m_argc, m_argv);
+  }
+
+ private:
+  int m_argc = 1;
+  char m_name[14] = "combwise-cli";
+  char* m_argv[2] = {m_name, nullptr};
+  std::unique_ptr<QGuiApplication> m_app;
+};
+
+PrintLook lookOf(const std::string& programFolder) {
+  Settings settings;
+  ReadcfgFile(programFolder, settings);
+  PrintLook look;
+  if (!settings.boardFontName.empty()) look.fontName = QString::fromStdString(settings.boardFontName);
+  if (settings.BoardFontSize > 0) look.fontSize = settings.BoardFontSize;
+  if (settings.OutlineWidth > 0) look.outlineWidth = settings.OutlineWidth;
+  look.wrapFont = boardFont(look.fontName, look.fontSize);
+  return look;
+}
+
+}  // namespace
+
+int runPdf(Context& context, const Arguments& args) {
+  ParsedArgs parsed = parseArgs(args, {"--output"}, {"--clues", "--help"});
+  if (parsed.has("--help")) {
+    context.out << kPdfHelp;
+    return 0;
+  }
+  const auto output = parsed.value("--output");
+  if (parsed.error.empty() && parsed.positional.size() != 2) parsed.error = "give a collection FILE and a RANGE";
+  if (parsed.error.empty() && (!output || output->empty())) parsed.error = "--output is required";
+  if (!parsed.error.empty()) {
+    context.err << "combwise-cli pdf: " << parsed.error << "\n\n" << kPdfHelp;
+    return 2;
+  }
+  const std::string& path = parsed.positional[0];
+  const int count = countPuzzles(path);
+  if (count == 0) {
+    context.err << "combwise-cli pdf: " << path << " holds no puzzles\n";
+    return 1;
+  }
+  const PrintRangeCheck range = parseToolRange(parsed.positional[1], count);
+  if (!range.ok()) {
+    context.err << "combwise-cli pdf: " << range.message << "\n";
+    return 2;
+  }
+  if (sameFile(*output, path) || sameFile(*output, context.meaningsPath())) {
+    context.err << "combwise-cli pdf: " << *output << " is an input of this command; it is not overwritten\n";
+    return 1;
+  }
+
+  OffscreenQt qt;
+  ErrorLog log(context.programFolder);
+  Meanings meanings(&log);
+  Board board;
+  PuzzleState state;
+  state.PuzzleCount = count;
+  const PrintLook look = lookOf(context.programFolder);
+  const PageLoader load = [&](int n) -> std::optional<PagePuzzle> {
+    const PuzzleReadResult read = readPuzzle(path, n, board, state, ClueSource{&meanings, context.meaningsPath(), {}});
+    if (!read.loaded()) {
+      context.err << "combwise-cli pdf: " << readFailure(path, read) << " (skipped)\n";
+      return std::nullopt;
+    }
+    return PagePuzzle{board, state, look};
+  };
+  PdfTarget pdf(QString::fromStdString(*output));
+  const RangeOutcome printed =
+      PrintPuzzleRange(pdf, range.range->first, range.range->last, count, load, parsed.has("--clues"));
+  if (!printed.opened) {
+    context.err << "combwise-cli pdf: cannot write " << *output << "\n";
+    return 1;
+  }
+  context.out << NumberText(printed.printed) << " puzzles printed to " << *output << "\n";
+  return printed.printed > 0 ? 0 : 1;
+}
+
+}  // namespace combwise::cli
