@@ -1,6 +1,8 @@
 // The clue listing's text lines.
 #include "core/files/cluelisting.h"
 
+#include <cerrno>
+
 #include "core/files/textfile.h"
 #include "core/model/text.h"
 
@@ -23,8 +25,9 @@ std::vector<std::string> clueListingLines(const PuzzleState& state, const Listin
 }
 
 Status writeClueListing(const std::string& path, const PuzzleState& state, const ListingBanner& banner) {
+  errno = 0;
   if (!writeLines(path, clueListingLines(state, banner), WriteMode::Truncate))
-    return Status::failure("Cannot write " + path);
+    return Status::failure(fileErrorMessage("write", path, errno));
   return Status::success();
 }
 

@@ -2,6 +2,7 @@
 #include "core/files/collectiontools.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <deque>
 #include <set>
 #include <string_view>
@@ -62,15 +63,16 @@ RandomizeResult randomizeCollection(const std::string& collectionPath, RandomSou
 
   DistinctLines distinct;
   {
+    if (auto reason = unreadableReason(collectionPath)) return failure(result, *reason);
     LineReader reader(collectionPath);
-    if (!reader.isOpen()) return failure(result, "Cannot open " + collectionPath);
+    if (!reader.isOpen()) return failure(result, fileErrorMessage("open", collectionPath, reader.errorNumber()));
     while (auto line = reader.next()) {
       ++result.readCount;
       if (distinct.add(std::move(*line))) ++result.distinctCount;
       report(progress, "source " + NumberText(result.readCount) + " " + NumberText(result.distinctCount));
       pump(events);
     }
-    if (reader.failed()) return failure(result, "Cannot read " + collectionPath);
+    if (reader.failed()) return failure(result, fileErrorMessage("read", collectionPath, reader.errorNumber()));
   }
 
   // Ranking by key and line in the sorted list's order: one sort of all the
@@ -91,7 +93,8 @@ RandomizeResult randomizeCollection(const std::string& collectionPath, RandomSou
     content += "\r\n";
     report(progress, "random " + NumberText(++written));
   }
-  if (!replaceFileContent(*output, content)) return failure(result, "Cannot write " + *output);
+  errno = 0;
+  if (!replaceFileContent(*output, content)) return failure(result, fileErrorMessage("write", *output, errno));
   result.message = *output + " randomized";
   return result;
 }

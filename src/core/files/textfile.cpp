@@ -132,7 +132,9 @@ bool replaceFileContent(const std::string& path, std::string_view content) {
   std::error_code error;
   if (ok) std::filesystem::rename(temporary, path, error);
   if (!ok || error) {
+    const int cause = error ? error.value() : errno;  // kept for the caller's message
     std::filesystem::remove(temporary, error);
+    errno = cause;
     return false;
   }
   return true;
