@@ -113,7 +113,8 @@ int runCheck(Context& context, const Arguments& args) {
   }
   const std::unordered_set<std::string>* wordsToCheck = &words;
   if (words.empty()) {
-    context.err << "combwise-cli check: " << dictionaryPath << " holds no words of 3 to 6 letters (words not checked)\n";
+    context.err << "combwise-cli check: " << dictionaryPath
+                << " holds no words of 3 to 6 letters (words not checked)\n";
     wordsToCheck = nullptr;
   }
   Meanings meanings(&log);

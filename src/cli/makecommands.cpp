@@ -100,9 +100,9 @@ bool readRunOptions(ParsedArgs& parsed, LineRunOptions& options) {
 }  // namespace
 
 int runCreate(Context& context, const Arguments& args) {
-  ParsedArgs parsed =
-      parseArgs(args, {"--size", "--count", "--jobs", "--seed", "--dictionary", "--meanings", "--output", "--max-tries"},
-                {"--help"});
+  ParsedArgs parsed = parseArgs(
+      args, {"--size", "--count", "--jobs", "--seed", "--dictionary", "--meanings", "--output", "--max-tries"},
+      {"--help"});
   if (parsed.has("--help")) {
     context.out << kCreateHelp;
     return 0;
@@ -132,7 +132,8 @@ int runCreate(Context& context, const Arguments& args) {
   }
   for (const std::string& input : {dictionaryPath, meaningsPath}) {
     if (sameFile(*output, input)) {
-      context.err << "combwise-cli create: " << *output << " is an input of this command; puzzles are not appended to it\n";
+      context.err << "combwise-cli create: " << *output
+                  << " is an input of this command; puzzles are not appended to it\n";
       return 1;
     }
   }

@@ -8,8 +8,8 @@
 #include "core/files/cluelisting.h"
 #include "core/files/dictionary.h"
 #include "core/files/errorlog.h"
-#include "core/files/textfile.h"
 #include "core/files/puzzlefile.h"
+#include "core/files/textfile.h"
 #include "core/model/text.h"
 
 namespace combwise::cli {

@@ -126,7 +126,8 @@ TEST(CliCreate, ADictionaryThatCannotMakeTheSizeStopsAtMaxTriesAndAppendsNothing
   ASSERT_TRUE(replaceFileContent(existing, "kept"));
   for (const std::string& dictionary : {head, copies, garbage}) {
     for (const std::string& target : {output, existing}) {
-      const CliRun run = cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", dictionary, "--output", target});
+      const CliRun run =
+          cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", dictionary, "--output", target});
       EXPECT_EQ(run.status, 1) << dictionary;
       EXPECT_THAT(run.err, HasSubstr(dictionary)) << run.err;
     }

@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 "a scheme not found changes no colour");
 
   const std::string path = fuzz::scratchFile("all.col", text);
-  for (const auto& entry : schemeList(path)) fuzz::require(entry.find(".col") == std::string::npos, "entries end before .col");
+  for (const auto& entry : schemeList(path))
+    fuzz::require(entry.find(".col") == std::string::npos, "entries end before .col");
   ColourScheme scheme;
   const SchemeLoad load = loadOptionsScheme(path, name, scheme, DesignedColours{});
   for (int colour : scheme.colours) fuzz::require(colour >= 0 && colour <= 0xFFFFFF, "loaded colours are 24-bit");

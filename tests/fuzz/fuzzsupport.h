@@ -29,7 +29,8 @@ inline const std::string& scratchFolder() {
 // Writes the input as the file `name` of the scratch folder.
 inline std::string scratchFile(const std::string& name, std::string_view content) {
   const std::string path = scratchFolder() + name;
-  std::ofstream(path, std::ios::binary | std::ios::trunc).write(content.data(), static_cast<std::streamsize>(content.size()));
+  std::ofstream(path, std::ios::binary | std::ios::trunc)
+      .write(content.data(), static_cast<std::streamsize>(content.size()));
   return path;
 }
 

@@ -140,8 +140,8 @@ void Meanings::checkFitness(const std::string& path) {
     const auto colon = line.find(':');
     if (colon != std::string_view::npos && colon > 0) anyClue = true;
     if (i > 0 && line < std::string_view(items[i - 1])) {
-      m_warning = path + " is not sorted (line " + NumberText(static_cast<long long>(i) + 1) +
-                  " belongs before line " + NumberText(static_cast<long long>(i)) + "): clues may not be found";
+      m_warning = path + " is not sorted (line " + NumberText(static_cast<long long>(i) + 1) + " belongs before line " +
+                  NumberText(static_cast<long long>(i)) + "): clues may not be found";
       return;
     }
   }

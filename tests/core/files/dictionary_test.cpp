@@ -3,7 +3,11 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <random>
 
@@ -22,8 +26,8 @@ TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCou
   // Only words the puzzle reader takes back may reach a puzzle: no blank,
   // digit, dot code, punctuation or NUL; lower case is taken as upper case.
   ASSERT_TRUE(writeLines(first,
-                         {"TEA", "TEA ", "SEAT", "tears", "STREAM", "ABCDEF", "MASTER", "ab", "SEVENTH", "A#B",
-                          "AB1C", std::string("AB\0C", 4), "", "ME-OW"},
+                         {"TEA", "TEA ", "SEAT", "tears", "STREAM", "ABCDEF", "MASTER", "ab", "SEVENTH", "A#B", "AB1C",
+                          std::string("AB\0C", 4), "", "ME-OW"},
                          WriteMode::Truncate));
   Dictionary dictionary;
   int pumped = 0;
@@ -87,6 +91,34 @@ TEST(MeaningsFile, AnEmptyUnsortedOrClueLessFileGivesOneWarning) {
   EXPECT_EQ(warningFor({"TEA:a drink", "SEAT:a chair", "ZOO:a park"}),
             path + " is not sorted (line 2 belongs before line 1): clues may not be found");
   EXPECT_EQ(warningFor({"SEAT:a chair", "TEA:a drink", "TEA:leaves"}), "");
+}
+
+TEST(MeaningsFile, RunningOutOfMemoryIsAnErrorThatNamesTheFile) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "the address sanitizer reserves more address space than the limit allows";
+#else
+  TempFolder folder;
+  const std::string path = folder.file("mean3456.txt");
+  {
+    // One line of a gigabyte, made without writing it (the file is sparse).
+    std::FILE* file = std::fopen(path.c_str(), "wb");
+    ASSERT_NE(file, nullptr);
+    ASSERT_EQ(ftruncate(fileno(file), 1LL << 30), 0);
+    std::fclose(file);
+  }
+  EXPECT_EXIT(
+      {
+        rlimit limit{};
+        getrlimit(RLIMIT_AS, &limit);
+        limit.rlim_cur = 256LL << 20;
+        setrlimit(RLIMIT_AS, &limit);
+        Meanings meanings;
+        const Status read = meanings.read(path);
+        std::fprintf(stderr, "%s\n", read.error.c_str());
+        std::exit(read.ok() || meanings.loaded() ? 1 : 0);
+      },
+      ::testing::ExitedWithCode(0), "Cannot read .*mean3456.txt: there is not enough memory");
+#endif
 }
 
 TEST(DictionaryFile, RandomBytesFillThePoolsOnlyWithWordsOfTheirLength) {

@@ -201,7 +201,8 @@ TEST_F(CollectionFile, PipesAndFoldersAreRefusedWithTheirCauseNotCountedAsEmpty)
   const auto refused = readPuzzle(pipe, 1, board, state, {});
   EXPECT_EQ(refused.outcome, ReadOutcome::Unreadable);
   EXPECT_EQ(refused.message, "Cannot open " + pipe + ": it is not a regular file");
-  EXPECT_EQ(readPuzzle(folder.folder(), 1, board, state, {}).message, "Cannot open " + folder.folder() + ": it is a folder");
+  EXPECT_EQ(readPuzzle(folder.folder(), 1, board, state, {}).message,
+            "Cannot open " + folder.folder() + ": it is a folder");
   const std::string missing = folder.file("missing.txt");
   EXPECT_EQ(readPuzzle(missing, 1, board, state, {}).message, "Cannot open " + missing + ": No such file or directory");
 }

@@ -112,7 +112,8 @@ TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCause) {
   const std::string pipe = temp.file("pipe"), file = temp.file("set.txt");
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   putFile(file, "x\r\n");
-  EXPECT_EQ(unreadableReason(temp.file("none.txt")), "Cannot open " + temp.file("none.txt") + ": No such file or directory");
+  EXPECT_EQ(unreadableReason(temp.file("none.txt")),
+            "Cannot open " + temp.file("none.txt") + ": No such file or directory");
   EXPECT_EQ(unreadableReason(temp.folder()), "Cannot open " + temp.folder() + ": it is a folder");
   EXPECT_EQ(unreadableReason(pipe, true), "Cannot open " + pipe + ": it is not a regular file");
   EXPECT_EQ(unreadableReason(pipe), std::nullopt);  // read once, a pipe is fine

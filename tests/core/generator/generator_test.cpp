@@ -148,8 +148,8 @@ TEST(Letters, ShuffleKeepsTheLettersAndRemainingLettersTakesEachUsedLetterOnce) 
 // puzzle can ever be made from them.
 Dictionary handfulOfWords(const TempFolder& folder) {
   const std::string path = folder.file("handful.txt");
-  EXPECT_TRUE(writeLines(path, {"TEA", "EAT", "SEAT", "EATS", "TEARS", "STARE", "MASTER", "STREAM"},
-                         WriteMode::Truncate));
+  EXPECT_TRUE(
+      writeLines(path, {"TEA", "EAT", "SEAT", "EATS", "TEARS", "STARE", "MASTER", "STREAM"}, WriteMode::Truncate));
   Dictionary dictionary;
   EXPECT_TRUE(readDictionary(path, dictionary).ok());
   return dictionary;
@@ -181,7 +181,8 @@ TEST(Generator, ADictionaryThatCanNeverMakeTheSizeGivesUpAfterMaxTriesAndTheStop
   hooks.stop = [&] { return ++asked > 3; };
   EXPECT_FALSE(generator.generate(board, state, random, hooks));
   EXPECT_EQ(generator.lastEnd(), GenerateEnd::Stopped);
-  EXPECT_EQ(gaveUpMessage("d.txt", 7, 30), "The dictionary d.txt cannot make puzzles of size 7: no puzzle after 30 tries");
+  EXPECT_EQ(gaveUpMessage("d.txt", 7, 30),
+            "The dictionary d.txt cannot make puzzles of size 7: no puzzle after 30 tries");
 }
 
 TEST(PuzzleLines, RunsStreamWhateverTheCountAndEndWhenNoPuzzleCanBeMade) {
