@@ -161,6 +161,12 @@ void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last) 
   m_window.prompter().ShowMessage(text(NumberText(outcome.printed)) + " puzzles printed", "vbinformation+vbok");
 }
 
+void OutputCommands::printFileCommand() {
+  const PuzzleState& state = m_window.puzzle();
+  if (!ready() || state.PuzzleCount <= 0 || state.CollectionPath.empty()) return;
+  printPuzzleRange(printer(), state.PuzzleNumber, state.PuzzleNumber);
+}
+
 void OutputCommands::printToPdf(int first, int last) {
   const QString chosen = m_window.fileChooser().chooseFile(
       {"Save as PDF", "*.pdf", "PDF Files", text(m_window.programFolder()), "SAVE", {}});
