@@ -1,0 +1,269 @@
+// The output commands on a running window: range printing into a PDF file,
+// the single print and its question, the clue text file, the clipboard
+// pictures, and the collection tools.
+#include <QAction>
+#include <QFile>
+#include <QMenu>
+#include <QPainter>
+#include <QProcess>
+#include <QtTest>
+#include <memory>
+
+#include "core/play/layout.h"
+#include "gui/app/mainwindow.h"
+#include "gui/app/outputcommands.h"
+#include "gui/output/pageimage.h"
+#include "gui/output/pdftarget.h"
+#include "gui/play/boardpicture.h"
+#include "support/fakeprompter.h"
+#include "support/gamefolder.h"
+
+namespace combwise {
+
+using testing::GameFolder;
+
+class RecordingClipboard : public ClipboardSink {
+ public:
+  void setImage(const QImage& image) override { images.append(image); }
+  QList<QImage> images;
+};
+
+class TestOutput : public QObject {
+  Q_OBJECT
+
+  struct Game {
+    GameFolder folder;
+    FakePrompter prompter;
+    FakeFileChooser files;
+    RecordingClipboard clipboard;
+    std::unique_ptr<PdfTarget> printer;
+    std::unique_ptr<MainWindow> window;
+    OutputCommands* output = nullptr;
+
+    // Four puzzles of size 7, the window showing the second; the printer
+    // writes "printer.pdf".
+    bool start() {
+      folder.writeConfig(folder.writeCollection("four.txt", GameFolder::readymade("7").mid(0, 4)), 2);
+      window = std::make_unique<MainWindow>(folder.folder(), WindowServices{&prompter, &files});
+      window->show();
+      if (!QTest::qWaitForWindowExposed(window.get())) return false;
+      if (!QTest::qWaitFor([this] { return window->startedUp(); })) return false;
+      output = window->findChild<OutputCommands*>();
+      printer = std::make_unique<PdfTarget>(folder.path("printer.pdf"));
+      if (output) output->setServices({printer.get(), &clipboard, {}});
+      return output != nullptr;
+    }
+    void trigger(const QString& name) const { window->findChild<QAction*>(name)->trigger(); }
+  };
+
+  static QString run(const QString& program, const QStringList& args) {
+    QProcess process;
+    process.start(program, args);
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput());
+  }
+  static int pageCount(const QString& pdf) {
+    const QString info = run("pdfinfo", {pdf});
+    const auto match = QRegularExpression("Pages:\\s+(\\d+)").match(info);
+    return match.hasMatch() ? match.captured(1).toInt() : 0;
+  }
+  static QString pdfText(const QString& pdf) { return run("pdftotext", {"-layout", pdf, "-"}); }
+
+  static QImage screenBoard(const MainWindow& window) {
+    QImage image(window.boardPicture()->size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    window.boardPicture()->paintOn(painter);
+    return image;
+  }
+
+  // Dark pixels in the letter slot of ring position k of hexagon n on the
+  // page picture, where the sheet's board is drawn at the print cell size.
+  static int darkPixelsInLetter(const QImage& image, const MainWindow& window, int n, int k) {
+    const Board& board = window.board();
+    const double twips = 1440.0 / image.logicalDpiX();
+    const BoardLayout page = LayOutBoard({board.size(), board.rows(), board.cols(), kPrintCellWidth, kPrintCellHeight,
+                                          twips, twips, kImageLeft, kImageTop});
+    const int x = page.cellX(board.HexRow(n), board.HexCol(n)) + page.LetterDX[k];
+    const int y = page.cellY(board.HexRow(n), board.HexCol(n)) + page.LetterDY[k];
+    int dark = 0;
+    for (int px = qRound((x + 10) / twips); px <= qRound((x + 130) / twips); ++px)
+      for (int py = qRound((y + 40) / twips); py <= qRound((y + 220) / twips); ++py)
+        if (image.rect().contains(px, py) && qGray(image.pixel(px, py)) < 96) ++dark;
+    return dark;
+  }
+
+ private slots:
+  void rangePrintingMakesOnePageAPuzzleAndShowsThePuzzleShownBefore() {
+    Game game;
+    QVERIFY(game.start());
+    const int cellWidth = game.window->layout().CellWidth;
+    const QString pdf = game.folder.path("range.pdf");
+    PdfTarget target(pdf);
+    game.output->printPuzzleRange(target, 3, 99);  // the range ends with the collection
+
+    QCOMPARE(pageCount(pdf), 2);
+    const QString printed = pdfText(pdf);
+    const QString header = "Combwise Puzzle ...hexagonal crosswords - Puz# %1:" + game.folder.path("four.txt");
+    QVERIFY2(printed.contains(header.arg(3)) && printed.contains(header.arg(4)), qPrintable(printed));
+    QVERIFY(!printed.contains("Puz# 2:"));
+    QCOMPARE(game.prompter.messages.last().prompt, QString("2 puzzles printed"));
+    QCOMPARE(game.prompter.messages.last().style, QString("vbinformation+vbok"));
+    QCOMPARE(game.window->puzzle().PuzzleNumber, 2);
+    QCOMPARE(game.window->layout().CellWidth, cellWidth);
+  }
+
+  void theSinglePrintAsksFirstAndPrintsTheSheetWithItsLettersOnly() {
+    Game game;
+    QVERIFY(game.start());
+    game.prompter.answers.enqueue(kMsgNo);
+    game.trigger("mnuprintpuzzle");
+    QCOMPARE(game.prompter.messages.last().prompt, QString("Print current puzzle and its solution?"));
+    QVERIFY(!QFile::exists(game.folder.path("printer.pdf")));
+
+    game.prompter.answers.enqueue(kMsgYes);
+    game.trigger("mnuprintpuzzle");
+    const QString pdf = game.folder.path("printer.pdf");
+    QCOMPARE(pageCount(pdf), 1);
+    const QString printed = pdfText(pdf);
+    QVERIFY(printed.contains("- Puz# 2:"));
+    // The sheet shows the given letters; the solved board below shows them all.
+    const PuzzleState& puzzle = game.window->puzzle();
+    int shownLetters = 0;
+    for (const QChar c : printed) shownLetters += c.isUpper() ? 1 : 0;
+    int freeLetters = 0;
+    const Board& board = game.window->board();
+    for (int n = 1; n <= board.hexCount(); ++n)
+      for (int k = 1; k <= 6; ++k) {
+        const int cell = board.InsideCells(n, k);
+        freeLetters += board.FreeCell(board.CellRow(cell), board.CellCol(cell));
+      }
+    QVERIFY(puzzle.PuzzleSize == 7 && freeLetters < 42);
+    QVERIFY2(shownLetters >= freeLetters + 42, qPrintable(printed));
+  }
+
+  void cluesGoToATextFileByteForByteAndNeverOverAnInput() {
+    Game game;
+    QVERIFY(game.start());
+    const PuzzleState& puzzle = game.window->puzzle();
+    const QString listing = game.folder.path("clues");
+    game.files.paths.enqueue(listing);
+    game.trigger("mnucluesfile");
+    const FileRequest asked = game.files.requests.last();
+    QCOMPARE(asked.title, QString("Select output file"));
+    QCOMPARE(asked.fileTypes, QString("*.txt"));
+    QCOMPARE(asked.fileTypesName, QString("Combwise Files"));
+    QCOMPARE(asked.mode, QString("SAVE"));
+
+    QByteArray expected = " Combwise - hexagonal crosswords (word letters can be in any order)\r\n Puz# 2: " +
+                          game.folder.path("four.txt").toUtf8() + "\r\n\r\n INSIDE CLUES:\r\n";
+    for (int hex = 1; hex <= 7; ++hex)
+      expected += QString(" 0%1. ").arg(hex).toUtf8() + puzzle.ClueTexts[2 * hex].c_str() + "\r\n";
+    expected += "\r\n OUTSIDE CLUES:\r\n";
+    for (int hex = 1; hex <= 7; ++hex)
+      expected += QString(" 0%1. ").arg(hex).toUtf8() + puzzle.ClueTexts[2 * hex - 1].c_str() + "\r\n";
+    QFile written(listing + ".txt");  // the default extension
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QCOMPARE(written.readAll(), expected);
+    written.close();
+    QCOMPARE(game.prompter.messages.last().prompt, "Puzzle printed to file:\r\n" + listing + ".txt");
+    QVERIFY(game.prompter.confirmations.isEmpty());
+
+    // Declining the overwrite question leaves the file as it was.
+    QFile::resize(listing + ".txt", 10);
+    game.prompter.confirmAnswer = false;
+    game.files.paths.enqueue(listing + ".txt");
+    game.trigger("mnucluesfile");
+    QCOMPARE(game.prompter.confirmations.last(), "OverWrite file: " + listing + ".txt ?");
+    QCOMPARE(QFileInfo(listing + ".txt").size(), 10);
+
+    // The open collection is never replaced by its listing.
+    game.prompter.confirmAnswer = true;
+    const QString collection = game.folder.path("four.txt");
+    const qint64 size = QFileInfo(collection).size();
+    game.files.paths.enqueue(collection);
+    game.trigger("mnucluesfile");
+    QCOMPARE(QFileInfo(collection).size(), size);
+    QCOMPARE(game.prompter.messages.last().style, QString("vbok+vbcritical"));
+  }
+
+  void copiedPicturesFollowTheGridAndTheSolutionShowsEveryLetterWithoutTouchingTheBoard() {
+    Game game;
+    QVERIFY(game.start());
+    const MainWindow& window = *game.window;
+    const QImage screenBefore = screenBoard(window);
+    game.trigger("mnucopypuzzle");
+    game.trigger("mnucopysolution");
+    QCOMPARE(game.clipboard.images.size(), 2);
+    const QImage puzzle = game.clipboard.images[0];
+    const QImage solution = game.clipboard.images[1];
+
+    const BoardLayout& screen = window.layout();
+    const double twips = 1440.0 / puzzle.logicalDpiX();
+    const QSize expected(qRound((window.board().cols() + 1) * screen.CellWidth * 1.4 / twips),
+                         qRound((window.board().rows() + 2) * screen.CellHeight * 1.25 / twips));
+    QCOMPARE(puzzle.size(), expected);
+    QCOMPARE(solution.size(), expected);
+
+    // The middle letters of cells to fill: white on the puzzle, drawn on the solution.
+    const Board& board = window.board();
+    int checked = 0;
+    for (int n = 1; n <= board.hexCount(); ++n)
+      for (int k : {2, 5}) {
+        const int cell = board.InsideCells(n, k);
+        const bool given = board.FreeCell(board.CellRow(cell), board.CellCol(cell)) == 1;
+        const int onPuzzle = darkPixelsInLetter(puzzle, window, n, k);
+        const int onSolution = darkPixelsInLetter(solution, window, n, k);
+        if (onSolution == 0) continue;  // cut off by the picture's edge
+        QCOMPARE(onPuzzle > 0, given);
+        if (!given) ++checked;
+      }
+    QVERIFY(checked > 0);
+    QCOMPARE(screenBoard(window), screenBefore);
+  }
+
+  void randomizeReportsItsCopyAndDoesNothingWithoutACollection() {
+    Game game;
+    QVERIFY(game.start());
+    const QStringList lines = GameFolder::readymade("7").mid(0, 2);
+    const QString source = game.folder.writeCollection("twice.txt", lines + lines);
+    game.window->puzzle().CollectionPath = source.toStdString();
+    game.trigger("mnurandomize");
+    const QString output = game.folder.path("twice-noduprandom.txt");
+    QCOMPARE(game.prompter.notices.last(), output + " randomized");
+    QVERIFY(game.window->statusText().startsWith("random"));
+    QFile copy(output);
+    QVERIFY(copy.open(QIODevice::ReadOnly));
+    QCOMPARE(copy.readAll().count('\n'), 2);
+
+    game.window->puzzle().CollectionPath.clear();
+    game.trigger("mnurandomize");
+    QCOMPARE(game.prompter.notices.size(), 1);
+  }
+
+  void theBatchAsksFirstThenAppendsToItsFileAndSaysDone() {
+    Game game;
+    QVERIFY(game.start());
+    game.output->setBatchCount(2);
+    const QString batch = game.folder.path("puz-18sepsize17D.txt");
+    game.prompter.answers.enqueue(kMsgNo);
+    game.trigger("mnubatch");
+    QVERIFY(!QFile::exists(batch));
+    QVERIFY(game.prompter.notices.isEmpty());
+
+    game.prompter.answers.enqueue(kMsgYes);
+    game.trigger("mnubatch");
+    QCOMPARE(game.prompter.notices, QStringList{"done"});
+    QFile made(batch);
+    QVERIFY(made.open(QIODevice::ReadOnly));
+    const QList<QByteArray> puzzles = made.readAll().split('\n');
+    QCOMPARE(puzzles.size(), 3);  // two lines and the end
+    QVERIFY(puzzles[0].startsWith("17;"));
+    QCOMPARE(game.window->puzzle().PuzzleSize, 7);  // the puzzle shown stays
+  }
+};
+
+}  // namespace combwise
+
+QTEST_MAIN(combwise::TestOutput)
+#include "tst_output.moc"
