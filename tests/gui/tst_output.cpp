@@ -2,7 +2,9 @@
 // the single print and its question, the clue text file, the clipboard
 // pictures, and the collection tools.
 #include <QAction>
+#include <QAbstractButton>
 #include <QFile>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QProcess>
@@ -111,6 +113,25 @@ class TestOutput : public QObject {
     QCOMPARE(game.prompter.messages.last().style, QString("vbinformation+vbok"));
     QCOMPARE(game.window->puzzle().PuzzleNumber, 2);
     QCOMPARE(game.window->layout().CellWidth, cellWidth);
+  }
+
+  void thePrintWindowsRangeCanGoToAPdfFile() {
+    Game game;
+    QVERIFY(game.start());
+    const QString pdf = game.folder.path("chosen.pdf");
+    game.files.paths.enqueue(pdf);
+    QTimer::singleShot(0, [] {
+      QWidget* form = QApplication::activeModalWidget();
+      QVERIFY(form && form->objectName() == "PrntForm");
+      form->findChild<QAbstractButton*>("optRange")->click();
+      form->findChild<QLineEdit*>("Text1")->setText("2-3");
+      form->findChild<QAbstractButton*>("chkPdf")->setChecked(true);
+      form->findChild<QAbstractButton*>("cmdOK")->click();
+    });
+    game.trigger("mnuprint");
+    QCOMPARE(pageCount(pdf), 2);
+    QVERIFY(!QFile::exists(game.folder.path("printer.pdf")));
+    QCOMPARE(game.prompter.messages.last().prompt, QString("2 puzzles printed"));
   }
 
   void theSinglePrintAsksFirstAndPrintsTheSheetWithItsLettersOnly() {

@@ -22,6 +22,7 @@
 #include "gui/output/pageimage.h"
 #include "gui/output/pdftarget.h"
 #include "gui/output/printertarget.h"
+#include "gui/output/prntform.h"
 #include "gui/output/rangeprinter.h"
 #include "gui/play/boardpicture.h"
 #include "gui/ui/prompter.h"
@@ -164,7 +165,16 @@ void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last) 
 void OutputCommands::printFileCommand() {
   const PuzzleState& state = m_window.puzzle();
   if (!ready() || state.PuzzleCount <= 0 || state.CollectionPath.empty()) return;
-  printPuzzleRange(printer(), state.PuzzleNumber, state.PuzzleNumber);
+  PrintTarget& target = printer();
+  PrntForm form(target.printerName(), text(state.CollectionPath), state.PuzzleCount, m_window.prompter(),
+                [this, &target] { return target.choosePrinter(&m_window); }, &m_window);
+  form.exec();
+  const std::optional<PrintRange> range = form.chosenRange(state.PuzzleNumber);
+  if (!range) return;
+  if (form.saveAsPdf())
+    printToPdf(range->first, range->last);
+  else
+    printPuzzleRange(target, range->first, range->last);
 }
 
 void OutputCommands::printToPdf(int first, int last) {
