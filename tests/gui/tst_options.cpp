@@ -1,0 +1,144 @@
+// The options window: the samples' clicks, colour labels taking the
+// picker's colour, scheme choice and its missing-scheme notice, and Apply
+// writing settings that survive the configuration file.
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "core/files/boardoptions.h"
+#include "core/files/config.h"
+#include "gui/ui/boxcontrol.h"
+#include "gui/ui/colpik.h"
+#include "gui/ui/form2.h"
+#include "gui/ui/schemepainter.h"
+#include "support/fakeprompter.h"
+
+namespace combwise {
+
+class TestOptions : public QObject {
+  Q_OBJECT
+
+ private:
+  QString folder() const { return m_home.path() + "/"; }
+  template <typename T>
+  T* child(QWidget& form, const char* name) {
+    auto* found = form.findChild<T*>(name);
+    if (!found) qFatal("no control %s", name);
+    return found;
+  }
+
+  QTemporaryDir m_home;
+  Settings m_settings;
+  ColourScheme m_scheme;
+  FakePrompter m_prompter;
+
+ private slots:
+  void init() {
+    QFile file(folder() + "all.col");
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QByteArray text = "xp.col\r\n";
+    for (int i = 0; i < 13; ++i) text += "236;233;216\r\n";
+    text += "night.col\r\n";
+    for (int i = 0; i < 13; ++i) text += QByteArray::number(30 + i) + ";30;36\r\n";
+    file.write(text);
+    m_settings = startupSettings();
+    m_scheme = ColourScheme{};
+    m_prompter = FakePrompter{};
+  }
+
+  void samplesWrapAndHoldTheirLimits() {
+    m_settings.OutlineWidth = 20;
+    m_settings.BoardFontSize = 32;
+    Form2 form(m_settings, m_scheme, folder(), m_prompter);
+    form.show();
+    auto* border = child<QLabel>(form, "lblBorder");
+    QCOMPARE(border->toolTip(), QString("Click to set hexagon border width"));
+    QTest::mouseClick(border, Qt::LeftButton);
+    QCOMPARE(form.borderWidth(), 1);
+    QTest::mouseClick(border, Qt::RightButton);
+    QCOMPARE(form.borderWidth(), 1);
+
+    auto* font = child<QLabel>(form, "lblFont");
+    QCOMPARE(font->text(), QString("Courier New"));
+    QTest::mouseClick(font, Qt::LeftButton);
+    QCOMPARE(form.fontSize(), 32);
+    QCOMPARE(font->font().pointSize(), 32);
+    QTest::mouseClick(font, Qt::RightButton);
+    QCOMPARE(form.fontSize(), 31);
+    QCOMPARE(m_settings.OutlineWidth, 20);  // nothing changes before Apply
+  }
+
+  void colourLabelTakesThePickersColour() {
+    Form2 form(m_settings, m_scheme, folder(), m_prompter);
+    form.show();
+    const QColor chosen(10, 20, 30);
+    form.picker()->setBackColor(chosen);
+    QCOMPARE(form.picker()->BackColor(), chosen);
+    auto* user = child<QLabel>(form, "lblUserColour");
+    QCOMPARE(user->toolTip(), QString("Set User Colour; select colour first"));
+    QTest::mouseClick(user, Qt::LeftButton);
+    QCOMPARE(form.boardColour(Form2::kUser), chosen);
+    QCOMPARE(form.boardColour(Form2::kBorder), toQColor(m_settings.OutlineColour));
+  }
+
+  void choosingASchemeShowsItsBackgroundOrTellsItIsMissing() {
+    Form2 form(m_settings, m_scheme, folder(), m_prompter);
+    auto* combo = child<QComboBox>(form, "cmbScheme");
+    QCOMPARE(combo->count(), 2);
+    QCOMPARE(combo->currentText(), QString("xp"));
+    form.chooseScheme("night");
+    QCOMPARE(form.picker()->BackColor(), QColor(32, 30, 36));
+    QVERIFY(m_prompter.notices.isEmpty());
+    form.chooseScheme("gone");
+    QCOMPARE(m_prompter.notices, QStringList{"Color Scheme: gone.col not found"});
+    QCOMPARE(form.picker()->BackColor(), QColor(0, 0, 0));
+    QCOMPARE(m_scheme, ColourScheme{});  // the window's scheme waits for Apply
+  }
+
+  void applyWritesTheSettingsAndTheConfigurationKeepsThem() {
+    Form2 form(m_settings, m_scheme, folder(), m_prompter);
+    form.show();
+    QSignalSpy applied(&form, &Form2::applied);
+    auto* combo = child<QComboBox>(form, "cmbScheme");
+    combo->setCurrentIndex(combo->findText("night"));
+    form.chooseScheme("night");
+    form.picker()->setBackColor(QColor(1, 2, 3));
+    QTest::mouseClick(child<QLabel>(form, "lblFillColour"), Qt::LeftButton);
+    QTest::mouseClick(child<QLabel>(form, "lblBorder"), Qt::LeftButton);
+    form.chooseFont("Courier New");
+    QTest::mouseClick(child<QLabel>(form, "lblFont"), Qt::LeftButton);
+    auto* apply = child<BoxControl>(form, "cmdApply");
+    QCOMPARE(apply->toolTip(), QString("Apply changes"));
+    QTest::mouseClick(apply, Qt::LeftButton);
+
+    QCOMPARE(applied.count(), 1);
+    QCOMPARE(m_settings.schemeName, std::string("night.col"));
+    QCOMPARE(m_scheme.name, std::string("night.col"));
+    QCOMPARE(m_scheme[2], rgb(32, 30, 36));
+    QCOMPARE(m_scheme[4], rgb(34, 30, 36));  // the new scheme's own buttons
+    QCOMPARE(m_settings.schemeColour13, m_scheme[13]);
+    QCOMPARE(m_settings.HexFillColour, rgb(1, 2, 3));
+    QCOMPARE(m_settings.OutlineWidth, 3);
+    QCOMPARE(m_settings.BoardFontSize, 11);
+    QCOMPARE(m_settings.boardFontName, std::string("Courier New"));
+
+    QVERIFY(SavecfgFile(folder().toStdString(), m_settings).ok());
+    Settings readBack = startupSettings();
+    ReadcfgFile(folder().toStdString(), readBack);
+    readBack.dictionaryPath = m_settings.dictionaryPath;
+    QVERIFY(readBack == m_settings);
+
+    auto* exitButton = child<BoxControl>(form, "cmdExit");
+    QCOMPARE(exitButton->toolTip(), QString("Close this window"));
+    QTest::mouseClick(exitButton, Qt::LeftButton);
+    QVERIFY(!form.isVisible());
+  }
+};
+
+}  // namespace combwise
+
+QTEST_MAIN(combwise::TestOptions)
+#include "tst_options.moc"

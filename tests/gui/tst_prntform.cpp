@@ -1,0 +1,106 @@
+// The print range window: ranges typed and confirmed, the messages that
+// refuse them, Cancel, the current puzzle, and the printer choice.
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+
+#include "gui/output/prntform.h"
+#include "support/fakeprompter.h"
+
+namespace combwise {
+
+class TestPrntForm : public QObject {
+  Q_OBJECT
+
+ private:
+  // Types a range on a fresh window of 20 puzzles and presses OK.
+  void typeRangeAndConfirm(PrntForm& form, const QString& range) {
+    form.show();
+    auto* text1 = form.findChild<QLineEdit*>("Text1");
+    QVERIFY(text1);
+    QCOMPARE(text1->toolTip(), QString("Enter range like 5-10"));
+    QTest::keyClicks(text1, range);
+    QVERIFY(form.findChild<QRadioButton*>("optRange")->isChecked());
+    QTest::mouseClick(form.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  }
+
+ private slots:
+  void aValidRangeClosesWithItsTenDigits() {
+    FakePrompter prompter;
+    PrntForm form("Office", "/home/me/puzzles.txt", 20, prompter, {});
+    QCOMPARE(form.tag(), QString("X"));
+    typeRangeAndConfirm(form, "5-10");
+    QVERIFY(prompter.messages.isEmpty());
+    QCOMPARE(form.tag(), QString("Y"));
+    QCOMPARE(form.rangeTag(), QString("0000500010"));
+    QVERIFY(!form.isVisible());
+    QCOMPARE(form.chosenRange(3), (PrintRange{5, 10}));
+  }
+
+  void refusedRangesKeepTheWindowOpen_data() {
+    QTest::addColumn<QString>("range");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("backwards") << "10-5" << "Print range not correct";
+    QTest::newRow("zero") << "0-3" << "Print range not correct";
+    QTest::newRow("beyond the count") << "21-25" << "Print range not correct";
+    QTest::newRow("no dash") << "7" << "Specify print range";
+    QTest::newRow("empty") << "" << "Specify print range";
+  }
+  void refusedRangesKeepTheWindowOpen() {
+    QFETCH(QString, range);
+    QFETCH(QString, message);
+    FakePrompter prompter;
+    PrntForm form("Office", "/home/me/puzzles.txt", 20, prompter, {});
+    form.findChild<QRadioButton*>("optRange")->setChecked(true);
+    typeRangeAndConfirm(form, range);
+    QCOMPARE(prompter.messages.size(), 1);
+    QCOMPARE(prompter.messages[0].prompt, message);
+    QCOMPARE(prompter.messages[0].style, QString("vbcritical+vbok"));
+    QCOMPARE(form.tag(), QString("X"));
+    QVERIFY(form.isVisible());
+    QVERIFY(!form.chosenRange(1));
+  }
+
+  void cancelAndCurrentPuzzle() {
+    FakePrompter prompter;
+    PrntForm cancelled("Office", "/p.txt", 20, prompter, {});
+    cancelled.show();
+    QTest::keyClicks(cancelled.findChild<QLineEdit*>("Text1"), "5-10");
+    QTest::mouseClick(cancelled.findChild<QPushButton*>("cmdCancel"), Qt::LeftButton);
+    QCOMPARE(cancelled.tag(), QString());
+    QVERIFY(!cancelled.chosenRange(4));
+
+    PrntForm current("Office", "/p.txt", 20, prompter, {});
+    current.show();
+    auto* pdf = current.findChild<QCheckBox*>("chkPdf");
+    QTest::mouseClick(pdf, Qt::LeftButton, {}, QPoint(8, pdf->height() / 2));
+    QTest::keyClick(&current, Qt::Key_Return);
+    QCOMPARE(current.tag(), QString("Y"));
+    QCOMPARE(current.chosenRange(4), (PrintRange{4, 4}));
+    QVERIFY(current.saveAsPdf());
+  }
+
+  void aChosenPrinterReplacesTheShownOneUnlessCancelled() {
+    FakePrompter prompter;
+    QStringList answers{"PDF", ""};
+    PrntForm form("Office", "/home/me/puzzles.txt", 20, prompter, [&answers] { return answers.takeFirst(); });
+    form.show();
+    auto* printer = form.findChild<QLabel*>("lblPrinter");
+    QCOMPARE(printer->toolTip(), QString("Office"));
+    QCOMPARE(form.findChild<QLabel*>("lblPath")->toolTip(), QString("/home/me/puzzles.txt"));
+    auto* select = form.findChild<QPushButton*>("cmdSelect");
+    QTest::mouseClick(select, Qt::LeftButton);
+    QCOMPARE(printer->text(), QString("PDF"));
+    QCOMPARE(printer->toolTip(), QString("PDF"));
+    QTest::mouseClick(select, Qt::LeftButton);
+    QCOMPARE(form.printerName(), QString("PDF"));
+  }
+};
+
+}  // namespace combwise
+
+QTEST_MAIN(combwise::TestPrntForm)
+#include "tst_prntform.moc"
