@@ -235,8 +235,7 @@ void MainWindow::buildMenus() {
   };
   add(m_fileMenu, "mnuloaddict", "Load a Dictionary", &MainWindow::loadDictionaryCommand);
   add(m_fileMenu, "mnuloadpuzfile", "Load Puzzle file", &MainWindow::loadPuzzleFile, QKeySequence::Open);
-  QAction* options = m_fileMenu->addAction("Edit Options");
-  options->setObjectName("mnuoptions");
+  add(m_fileMenu, "mnuoptions", "Edit Options", &MainWindow::editOptions);
   add(m_fileMenu, "mnusaveopts", "Save Options", &MainWindow::saveOptions);
   QAction* print = m_fileMenu->addAction("Print Puzzle File");
   print->setObjectName("mnuprint");

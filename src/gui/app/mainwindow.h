@@ -106,6 +106,7 @@ class MainWindow : public QMainWindow {
   void showSolutionReleased();
   void zoomClicked(int index);
   void sizeLabelClicked();
+  void editOptions();
   void showHelp();
   void showAbout();
 
@@ -122,6 +123,8 @@ class MainWindow : public QMainWindow {
   void startUp();
   void startTimerTick();
   void updateRecentMenu();
+  // Paints this window and the message box from the colour scheme.
+  void paintScheme();
   void readDictionary(const std::string& path);
 
   // After a puzzle was read or made: the counter, labels, word lists, the

@@ -50,6 +50,7 @@ void MainWindow::startUp() {
   m_scheme[ColourScheme::kButtonOverride] = m_settings.schemeColour13;
   m_layout = LayOutBoard({-1, 0, 0, 225, 375, Twips::of(*this).perPixelX, Twips::of(*this).perPixelY});
   updateRecentMenu();
+  paintScheme();
   applyLook();
   m_startTimer->start();
 }

@@ -10,10 +10,12 @@ namespace combwise {
 BoardPicture::BoardPicture(const Board& board, const PuzzleState& state, const BoardLayout& layout, QWidget* parent)
     : QWidget(parent), m_board(board), m_state(state), m_layout(layout), m_marker(new QWidget(this)) {
   setObjectName("Picture1");
+  setProperty("schemeRole", "picture");
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent, false);
   m_marker->setObjectName("Shape1");
+  m_marker->setProperty("schemeRole", "keep");
   m_marker->setAttribute(Qt::WA_TransparentForMouseEvents);
   m_marker->hide();
 }

@@ -11,6 +11,7 @@ namespace combwise {
 
 CluePicture::CluePicture(const PuzzleState& state, QWidget* viewport) : QWidget(viewport), m_state(state) {
   setObjectName("picinner");
+  setProperty("schemeRole", "picture");
   setAutoFillBackground(true);
   setCursor(Qt::OpenHandCursor);
   m_font = boardFont("Arial", 7);
@@ -19,11 +20,6 @@ CluePicture::CluePicture(const PuzzleState& state, QWidget* viewport) : QWidget(
 void CluePicture::setClueFont(const QFont& font) {
   m_font = font;
   DrawClues();
-}
-
-void CluePicture::setTextColour(const QColor& colour) {
-  m_textColour = colour;
-  update();
 }
 
 void CluePicture::DrawClues() {
@@ -40,7 +36,7 @@ void CluePicture::DrawClues() {
 
 void CluePicture::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  paintClues(painter, m_panel, m_textColour, m_font, Twips::of(*this));
+  paintClues(painter, m_panel, palette().color(QPalette::WindowText), m_font, Twips::of(*this));
 }
 
 void CluePicture::mousePressEvent(QMouseEvent* event) {

@@ -21,7 +21,6 @@ class CluePicture : public QWidget {
   // Lays the clues out again for the current width and font and repaints.
   void DrawClues();
   void setClueFont(const QFont& font);
-  void setTextColour(const QColor& colour);
   const CluePanel& panel() const { return m_panel; }
 
  protected:
@@ -36,7 +35,6 @@ class CluePicture : public QWidget {
   const PuzzleState& m_state;
   CluePanel m_panel;
   QFont m_font;
-  QColor m_textColour = Qt::black;
   int m_dragOffsetY = 0;
 };
 
