@@ -150,7 +150,8 @@ void applyScheme(QWidget* window, const ColourScheme& scheme) {
          qobject_cast<QAbstractSpinBox*>(parent) || qobject_cast<BoxControl*>(parent))) {
       continue;
     }
-    if (child->isWindow()) continue;
+    // Other windows owned by this one (the options, the message box) are painted on their own.
+    if (child->window() != window) continue;
     paintChild(child, background, buttons);
   }
 }
