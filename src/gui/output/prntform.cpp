@@ -16,8 +16,8 @@
 
 namespace combwise {
 
-PrntForm::PrntForm(const QString& printerName, const QString& collectionPath, long long puzzleCount,
-                   Prompter& prompter, PrinterChoice choosePrinter, QWidget* parent)
+PrntForm::PrntForm(const QString& printerName, const QString& collectionPath, long long puzzleCount, Prompter& prompter,
+                   PrinterChoice choosePrinter, QWidget* parent)
     : QDialog(parent),
       m_puzzleCount(puzzleCount),
       m_prompter(prompter),
@@ -109,8 +109,8 @@ void PrntForm::ok() {
   if (rangeChosen()) {
     const PrintRangeCheck check = checkPrintRange(m_text1->text().toStdString(), m_puzzleCount);
     if (!check.ok()) {
-      m_prompter.ShowMessage(QString::fromStdString(check.message), QString::fromUtf8(kPrintRangeStyle.data(),
-                                                                                      kPrintRangeStyle.size()));
+      m_prompter.ShowMessage(QString::fromStdString(check.message),
+                             QString::fromUtf8(kPrintRangeStyle.data(), kPrintRangeStyle.size()));
       m_text1->setFocus();
       m_text1->selectAll();
       return;

@@ -60,8 +60,8 @@ QPixmap borderPicture(int width, const QColor& border, const QColor& fill, const
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   const double w = 24, h = 30, px = 34, py = 12;
-  const QPolygonF hexagon{{px, py},         {px - w, py + h},     {px, py + 2 * h},
-                          {px + 2 * w, py + 2 * h}, {px + 3 * w, py + h}, {px + 2 * w, py}};
+  const QPolygonF hexagon{
+      {px, py}, {px - w, py + h}, {px, py + 2 * h}, {px + 2 * w, py + 2 * h}, {px + 3 * w, py + h}, {px + 2 * w, py}};
   painter.setPen(QPen(border, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   painter.setBrush(fill);
   painter.drawPolygon(hexagon);

@@ -31,8 +31,7 @@ class Form2 : public QDialog {
 
   // programFolder ends with a separator; the options' missing-scheme notice
   // goes to the prompter's plain box.
-  Form2(Settings& settings, ColourScheme& scheme, QString programFolder, Prompter& prompter,
-        QWidget* parent = nullptr);
+  Form2(Settings& settings, ColourScheme& scheme, QString programFolder, Prompter& prompter, QWidget* parent = nullptr);
 
   // Shows the window's current values (as on every activation).
   void loadFromWindow();
