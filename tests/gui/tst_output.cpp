@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QProcess>
+#include <QLabel>
 #include <QtTest>
 #include <memory>
 
@@ -281,6 +282,9 @@ class TestOutput : public QObject {
     QCOMPARE(puzzles.size(), 3);  // two lines and the end
     QVERIFY(puzzles[0].startsWith("17;"));
     QCOMPARE(game.window->puzzle().PuzzleSize, 7);  // the puzzle shown stays
+    // The batch's size and dictionary are the ones in use afterwards.
+    QCOMPARE(game.window->findChild<QLabel*>("lblsize")->text(), QString("17"));
+    QCOMPARE(QString::fromStdString(game.window->settings().dictionaryPath), game.folder.path("english3.txt"));
   }
 };
 

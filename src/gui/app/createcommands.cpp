@@ -20,6 +20,8 @@ void MainWindow::sizeLabelClicked() {
   m_sizeLabel->setText(QString::number(Board::nextSize(shown)));
 }
 
+void MainWindow::showSize(int size) { m_sizeLabel->setText(QString::number(size)); }
+
 void MainWindow::createPuzzle() {
   if (!createEnabled()) return;
   const auto size = static_cast<int>(leadingWhole(m_sizeLabel->text().toStdString()));

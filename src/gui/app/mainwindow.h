@@ -77,6 +77,11 @@ class MainWindow : public QMainWindow {
   // Whether the create command is enabled: false while a puzzle is made or
   // the dictionary read, when the file and play commands do nothing.
   bool createEnabled() const;
+  void setCreateEnabled(bool enabled);
+  // Reads a dictionary and makes it the one in use.
+  void readDictionary(const std::string& path);
+  // The size the next created puzzle will have.
+  void showSize(int size);
   // The start-up step the timer runs once; true when it has run.
   bool startedUp() const { return m_startedUp; }
 
@@ -125,14 +130,12 @@ class MainWindow : public QMainWindow {
   void updateRecentMenu();
   // Paints this window and the message box from the colour scheme.
   void paintScheme();
-  void readDictionary(const std::string& path);
 
   // After a puzzle was read or made: the counter, labels, word lists, the
   // layout when the board was set up again, the board and the clues.
   void puzzleShown(const PuzzleReadResult& read);
   void fitBoard();
   void relayout(int cellWidth, int cellHeight);
-  void setCreateEnabled(bool enabled);
   ClueSource clueSource();
   void pumpEvents();
 

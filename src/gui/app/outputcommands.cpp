@@ -256,7 +256,7 @@ void OutputCommands::makeBatch() {
                                       "vbquestion+vbyesno") != kMsgYes)
     return;
   // The batch works on a board and word data of its own, so the puzzle on
-  // the screen and the chosen dictionary stay as they are.
+  // the screen stays; afterwards its size and dictionary are the ones in use.
   ErrorLog log(folder);
   Board board;
   PuzzleState state;
@@ -265,6 +265,7 @@ void OutputCommands::makeBatch() {
   PuzzleMaker maker(board, state, dictionary, meanings);
   BatchProgress progress(&m_window);
   m_busy = true;
+  m_window.setCreateEnabled(false);
   LineRunOptions options;
   options.count = m_batchCount;
   const Status made = maker.runBatch(
@@ -278,7 +279,10 @@ void OutputCommands::makeBatch() {
         letEventsRun();
       });
   m_busy = false;
+  m_window.setCreateEnabled(true);
   progress.close();
+  m_window.showSize(kBatchSize);
+  m_window.readDictionary(folder + "english3.txt");
   m_window.prompter().notify(made.ok() ? QString("done") : text(made.error));
 }
 
