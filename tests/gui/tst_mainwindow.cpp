@@ -275,7 +275,8 @@ class TestMainWindow : public QObject {
     QCOMPARE(game.window->puzzle().CollectionPath, std::string("tempcombwisepuzzle.txt"));
     QVERIFY(invariantBreaches(game.window->board(), game.window->puzzle()).empty());
 
-    // Two words of each length can never fill a board: only Escape ends it.
+    // Two words of each length can never fill a board: Escape ends it, or
+    // the bound on tries does with a message.
     QFile words(game.folder.path("tiny.txt"));
     QVERIFY(words.open(QIODevice::WriteOnly));
     words.write("CAT\r\nDOG\r\nBIRD\r\nFISH\r\nHORSE\r\nSHEEP\r\nRABBIT\r\nDONKEY\r\n");
@@ -283,7 +284,7 @@ class TestMainWindow : public QObject {
     game.files.paths.enqueue(words.fileName());
     game.click("cmdloaddict");
     QCOMPARE(game.find<QLabel>("lbldict")->text(), QString("tiny.txt"));
-    QTimer::singleShot(300, game.window.get(), [&game] {
+    QTimer::singleShot(0, game.window.get(), [&game] {
       QVERIFY(!game.window->createEnabled());
       QVERIFY(game.button("cmdcancel")->isVisible());
       QTest::keyClick(game.window->boardPicture(), Qt::Key_Escape);
@@ -293,6 +294,9 @@ class TestMainWindow : public QObject {
     QVERIFY(game.window->createEnabled());
     QVERIFY(!game.button("cmdcancel")->isVisible());
     QCOMPARE(game.window->puzzle().PuzzleSize, 10);  // the last puzzle is still there
+    game.click("cmdcreate");
+    QVERIFY(game.prompter.messages.last().prompt.contains("cannot make puzzles of size 10"));
+    QVERIFY(game.window->createEnabled());
   }
 
   void saveAppendsAndExitKeepsTheSettingsOnlyWhenConfirmed() {

@@ -43,6 +43,7 @@ void MainWindow::createPuzzle() {
   hooks.status = [this](const std::string& status) { setStatus(QString::fromStdString(status)); };
   hooks.events = [this] { pumpEvents(); };
   hooks.stop = [this] { return m_cancelRequested; };
+  hooks.maxTries = kDefaultMaxTries;  // a dictionary that cannot make the size says so
   const CreateResult result = m_maker.create(size, m_settings.dictionaryPath, m_programFolder + "mean3456.txt",
                                              m_random, hooks, kTemporaryPuzzleFile);
   m_creating = false;

@@ -157,10 +157,12 @@ void MainWindow::pumpEvents() {
 
 bool MainWindow::showPuzzle(const std::string& path, int n) {
   const PuzzleReadResult read = readPuzzle(path, n, m_board, m_puzzle, clueSource());
-  if (read.outcome == ReadOutcome::NoPuzzles) {
+  if (read.outcome == ReadOutcome::NoPuzzles || read.outcome == ReadOutcome::Unreadable) {
     m_prompter->ShowMessage(QString::fromStdString(read.message), "vbok+vbcritical");
     pumpEvents();
   }
+  // The status line says that a read failed; its tip says why.
+  m_status->setToolTip(read.loaded() ? QString() : QString::fromStdString(read.message));
   if (!read.loaded()) return false;
   puzzleShown(read);
   return true;
