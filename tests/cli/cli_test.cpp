@@ -1,10 +1,13 @@
-// The makers' command-line tool, run on small inputs with the game's data.
+// The makers' command-line tool, run on small inputs with the game's data,
+// and its pdf command drawing the range printer's pages headless.
 #include "cli/cli.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <sstream>
 
 #include "core/files/textfile.h"
@@ -67,7 +70,7 @@ TEST(CliCreate, BadArgumentsAndUnreadableFilesAreRefusedClearly) {
   EXPECT_EQ(cli({"show", "--help"}).status, 0);
 }
 
-TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListing) {
+TEST(CliShowAndClues, ShowDrawsThePuzzleCluesWritesTheListingAndBadArgumentsAreSaid) {
   TempFolder temp;
   const std::string collection = temp.file("set.txt");
   ASSERT_EQ(cli({"create", "--size", "7", "--count", "2", "--seed", "3", "--output", collection}).status, 0);
@@ -80,6 +83,20 @@ TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListing) {
   EXPECT_THAT(cli({"show", collection, "-1", "--solution"}).out, ::testing::Not(HasSubstr(" _ ")));
   EXPECT_EQ(cli({"show", collection, "3"}).status, 1);
   EXPECT_EQ(cli({"show", collection, "zero"}).status, 2);
+  // Empty homes and paths, repeated options and numbers beyond the count are said.
+  EXPECT_EQ(cli({"show", collection}, "").status, 2);
+  std::ostringstream out, err;
+  EXPECT_EQ(runCli({"--home", "a", "--home", "b", "show", collection}, out, err), 2);
+  EXPECT_THAT(err.str(), HasSubstr("--home is given more than once"));
+  EXPECT_THAT(cli({"show", ""}).err, HasSubstr("an empty argument names no file"));
+  EXPECT_THAT(cli({"create", "--size", "7", "--size", "10", "--output", collection}).err,
+              HasSubstr("--size is given more than once"));
+  EXPECT_THAT(cli({"create", "--size", "7", "--output", ""}).err, HasSubstr("--output needs a value"));
+  EXPECT_THAT(cli({"show", collection, "900"}).err,
+              HasSubstr(collection + ": there is no puzzle 900: N must be from 1 to 2, or -1 for the last"));
+  const CliRun missing = cli({"show", temp.file("none.txt")});
+  EXPECT_EQ(missing.err, "combwise-cli show: Cannot open " + temp.file("none.txt") + ": No such file or directory\n");
+  EXPECT_THAT(cli({"check", temp.folder()}).err, HasSubstr(temp.folder() + ": it is a folder"));
 
   const std::string listing = temp.file("clues.txt");
   ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}).status, 0);
@@ -140,25 +157,6 @@ TEST(CliCreate, ADictionaryThatCannotMakeTheSizeStopsAtMaxTriesAndAppendsNothing
               HasSubstr("are not words of 3 to 6 letters A-Z and were skipped"));
 }
 
-TEST(CliArguments, EmptyHomeEmptyPathsRepeatedOptionsAndLimitsAreSaid) {
-  TempFolder temp;
-  const std::string collection = temp.file("set.txt");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "2", "--seed", "1", "--output", collection}).status, 0);
-  EXPECT_EQ(cli({"show", collection}, "").status, 2);
-  std::ostringstream out, err;
-  EXPECT_EQ(runCli({"--home", "a", "--home", "b", "show", collection}, out, err), 2);
-  EXPECT_THAT(err.str(), HasSubstr("--home is given more than once"));
-  EXPECT_THAT(cli({"show", ""}).err, HasSubstr("an empty argument names no file"));
-  EXPECT_THAT(cli({"create", "--size", "7", "--size", "10", "--output", collection}).err,
-              HasSubstr("--size is given more than once"));
-  EXPECT_THAT(cli({"create", "--size", "7", "--output", ""}).err, HasSubstr("--output needs a value"));
-  EXPECT_THAT(cli({"show", collection, "900"}).err,
-              HasSubstr(collection + ": there is no puzzle 900: N must be from 1 to 2, or -1 for the last"));
-  const CliRun missing = cli({"show", temp.file("none.txt")});
-  EXPECT_EQ(missing.err, "combwise-cli show: Cannot open " + temp.file("none.txt") + ": No such file or directory\n");
-  EXPECT_THAT(cli({"check", temp.folder()}).err, HasSubstr(temp.folder() + ": it is a folder"));
-}
-
 TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
   TempFolder temp;
   const std::string collection = temp.file("set.txt");
@@ -213,6 +211,55 @@ TEST(CliCollections, RandomizeWritesBesideAndBatchAppendsToTheProgramFoldersFile
   const auto made = *readLines(temp.file("puz-18sepsize17D.txt"));
   ASSERT_EQ(made.size(), 6u);
   EXPECT_EQ(made[0].substr(0, 3), "17;");
+}
+
+std::string commandOutput(const std::string& command) {
+  std::string text;
+  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+  char buffer[4096];
+  while (pipe && fgets(buffer, sizeof buffer, pipe.get())) text += buffer;
+  return text;
+}
+
+// The pdf command's pages, read back with poppler's tools.
+int pages(const std::string& pdf) {
+  const std::string info = commandOutput("pdfinfo '" + pdf + "'");
+  const auto at = info.find("Pages:");
+  return at == std::string::npos ? 0 : std::stoi(info.substr(at + 6));
+}
+
+TEST(CliPdf, ARangePrintsOnePageAPuzzleStoppingAtTheEndCluesAddAPageAndBadRangesAreRefused) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt");
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "3", "--seed", "5", "--output", collection}).status, 0);
+
+  const std::string pdf = temp.file("two.pdf");
+  const CliRun two = cli({"pdf", collection, "2-9", "--output", pdf});
+  EXPECT_EQ(two.status, 0) << two.err;
+  EXPECT_THAT(two.out, HasSubstr("2 puzzles printed"));
+  EXPECT_EQ(pages(pdf), 2);
+  const std::string text = commandOutput("pdftotext '" + pdf + "' -");
+  EXPECT_THAT(text, HasSubstr("Combwise Puzzle ...hexagonal crosswords - Puz# 2:" + collection));
+  EXPECT_THAT(text, HasSubstr("- Puz# 3:"));
+
+  const std::string withClues = temp.file("clues.pdf");
+  EXPECT_EQ(cli({"pdf", collection, "all", "--output", withClues, "--clues"}).status, 0);
+  EXPECT_EQ(pages(withClues), 6);
+  EXPECT_THAT(commandOutput("pdftotext '" + withClues + "' -"), HasSubstr("OUTSIDE CLUES:"));
+  EXPECT_EQ(cli({"pdf", collection, "3", "--output", pdf}).status, 0);
+  EXPECT_EQ(pages(pdf), 1);
+
+  // Ranges the print window refuses exit with its message.
+  const std::string none = temp.file("none.pdf");
+  for (const char* range : {"5-2", "0-3", "4", "4-9"}) {
+    const CliRun refused = cli({"pdf", collection, range, "--output", none});
+    EXPECT_EQ(refused.status, 2) << range;
+    EXPECT_THAT(refused.err, HasSubstr("Print range not correct")) << range;
+  }
+  EXPECT_THAT(cli({"pdf", collection, " ", "--output", none}).err, HasSubstr("Specify print range"));
+  EXPECT_EQ(cli({"pdf", collection, "1"}).status, 2);  // no --output
+  EXPECT_EQ(cli({"pdf", collection, "1", "--output", collection}).status, 1);
+  EXPECT_FALSE(std::filesystem::exists(none));
 }
 
 }  // namespace

@@ -6,29 +6,22 @@
 namespace combwise {
 namespace {
 
-TEST(BoardOptions, StartupSettingsAreUsableAndSurviveTheConfigurationLine) {
+TEST(BoardOptions, StartupColoursStandOutFromTheHexagonFill) {
   const Settings settings = startupSettings();
-  EXPECT_EQ(settings.boardFontName, "Arial");
-  EXPECT_EQ(settings.BoardFontSize, 10);
-  EXPECT_EQ(settings.OutlineWidth, 2);
-  EXPECT_EQ(settings.schemeName, "xp.col");
-  // Letters and outlines must stand out from the hexagon fill.
   EXPECT_NE(settings.GivenLetterColour, settings.HexFillColour);
   EXPECT_NE(settings.EntryColour, settings.HexFillColour);
   EXPECT_NE(settings.OutlineColour, settings.HexFillColour);
   EXPECT_FALSE(settings.recentSeparatorShown());
 }
 
-TEST(BoardOptions, BorderWidthWrapsAboveTwentyAndStopsAtOne) {
+// The border width wraps above twenty and stops at one; the font size is held
+// between eight and thirty-two.
+TEST(BoardOptions, SampleClicksStepWithinTheirLimits) {
   EXPECT_EQ(nextOutlineWidth(2, SampleClick::Left), 3);
   EXPECT_EQ(nextOutlineWidth(20, SampleClick::Left), 1);
-  EXPECT_EQ(nextOutlineWidth(3, SampleClick::Right), 2);
-  EXPECT_EQ(nextOutlineWidth(1, SampleClick::Right), 1);
-  EXPECT_EQ(nextOutlineWidth(-7, SampleClick::Right), 1);
   EXPECT_EQ(nextOutlineWidth(45, SampleClick::Left), 1);
-}
-
-TEST(BoardOptions, FontSizeIsHeldBetweenEightAndThirtyTwo) {
+  EXPECT_EQ(nextOutlineWidth(3, SampleClick::Right), 2);
+  EXPECT_EQ(nextOutlineWidth(-7, SampleClick::Right), 1);
   EXPECT_EQ(nextBoardFontSize(10, SampleClick::Left), 11);
   EXPECT_EQ(nextBoardFontSize(32, SampleClick::Left), 32);
   EXPECT_EQ(nextBoardFontSize(8, SampleClick::Right), 8);

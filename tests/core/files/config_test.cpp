@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <random>
 
 #include "core/files/textfile.h"
 #include "support/tempfolder.h"
@@ -87,19 +86,6 @@ TEST_F(ConfigFile, BlankRecentEntriesAreHiddenWithTheirCaptionKept) {
   EXPECT_EQ(settings.recentFiles[1], (RecentFile{"/a/1.txt", true}));
   EXPECT_FALSE(settings.recentFiles[2].shown || settings.recentFiles[3].shown);
   EXPECT_EQ(settings.recentFiles[4], (RecentFile{"/e/5.txt", true}));
-}
-
-TEST_F(ConfigFile, RandomContentNeverBreaksTheReader) {
-  std::mt19937 engine(7);
-  const std::string alphabet = "0123456789 ,-+x\r\n\n\n/.";
-  for (int round = 0; round < 300; ++round) {
-    std::string content;
-    for (std::size_t n = engine() % 200; n > 0; --n) content += alphabet[engine() % alphabet.size()];
-    ASSERT_TRUE(replaceFileContent(folder.file("combwise.cfg"), content));
-    Settings settings = defaults;
-    ReadcfgFile(folder.folder(), settings);
-    EXPECT_EQ(settings.dictionaryPath, defaultDictionary);
-  }
 }
 
 }  // namespace

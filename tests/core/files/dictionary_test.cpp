@@ -9,7 +9,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <random>
 
 #include "core/files/textfile.h"
 #include "support/tempfolder.h"
@@ -18,7 +17,6 @@ namespace combwise {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCounted) {
   TempFolder folder;
@@ -119,31 +117,6 @@ TEST(MeaningsFile, RunningOutOfMemoryIsAnErrorThatNamesTheFile) {
       },
       ::testing::ExitedWithCode(0), "Cannot read .*mean3456.txt: there is not enough memory");
 #endif
-}
-
-TEST(DictionaryFile, RandomBytesFillThePoolsOnlyWithWordsOfTheirLength) {
-  TempFolder folder;
-  std::mt19937 engine(5);
-  for (int round = 0; round < 200; ++round) {
-    std::string content;
-    for (std::size_t n = engine() % 300; n > 0; --n) {
-      const unsigned pick = engine() % 10;
-      content += pick < 2 ? '\n' : pick < 3 ? '\r' : static_cast<char>(engine() % 256);
-    }
-    ASSERT_TRUE(replaceFileContent(folder.file("d.txt"), content));
-    Dictionary dictionary;
-    ASSERT_TRUE(readDictionary(folder.file("d.txt"), dictionary).ok());
-    for (int length = 3; length <= 6; ++length) {
-      for (const auto& word : dictionary.pool(length)->items()) {
-        ASSERT_EQ(word.size(), std::size_t(length));
-        ASSERT_EQ(word.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), std::string::npos) << word;
-      }
-    }
-    EXPECT_EQ(dictionary.SixLetterKeys.size(), dictionary.Words6.ListCount());
-    Meanings meanings;
-    ASSERT_TRUE(meanings.read(folder.file("d.txt")).ok());
-    EXPECT_THAT(meanings.clue("", 1), IsEmpty());
-  }
 }
 
 }  // namespace

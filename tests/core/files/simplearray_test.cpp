@@ -6,8 +6,6 @@
 
 #include <chrono>
 #include <initializer_list>
-#include <random>
-#include <vector>
 
 #include "core/files/textfile.h"
 #include "support/tempfolder.h"
@@ -128,25 +126,8 @@ TEST(WordListGrowth, StorageGrowsByAFactorSoLongListsLoadInLinearTime) {
   EXPECT_LT(growths, 30);  // steps of 100 would copy the list 3000 times
 }
 
-// Every way of splitting the text, one table cell per pair of positions.
-bool referenceMatch(std::string_view text, std::string_view pattern) {
-  std::vector<std::vector<char>> can(pattern.size() + 1, std::vector<char>(text.size() + 1, 0));
-  can[pattern.size()][text.size()] = 1;
-  for (std::size_t p = pattern.size(); p-- > 0;) {
-    for (std::size_t t = text.size() + 1; t-- > 0;) {
-      if (pattern[p] == '*') {
-        can[p][t] = can[p + 1][t] || (t < text.size() && can[p][t + 1]);
-      } else if (t < text.size()) {
-        const char token = pattern[p];
-        const bool one = token == '?' || (token == '#' && text[t] >= '0' && text[t] <= '9') || token == text[t];
-        can[p][t] = one && can[p + 1][t + 1];
-      }
-    }
-  }
-  return can[0][0];
-}
-
-TEST(WordListSearch, PatternsWithManyStarsMatchQuicklyAndAsEverySplitWould) {
+// Agreement with a table of every split is the wildcard fuzz target's work.
+TEST(WordListSearch, PatternsWithManyStarsMatchQuickly) {
   // Trying every split of every "*" took 13 s here; 12 stars took 90 s.
   const std::string text(40, 'A');
   std::string pattern;
@@ -156,16 +137,8 @@ TEST(WordListSearch, PatternsWithManyStarsMatchQuicklyAndAsEverySplitWould) {
   EXPECT_TRUE(matchesWildcard(text + "B", pattern + "*B"));
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 
-  std::mt19937 engine(7);
-  const std::string letters = "AB1*?#";
-  for (int round = 0; round < 20000; ++round) {
-    std::string t, p;
-    for (auto n = engine() % 8; n > 0; --n) t += letters[engine() % 3];
-    for (auto n = engine() % 8; n > 0; --n) p += letters[engine() % letters.size()];
-    ASSERT_EQ(matchesWildcard(t, p), referenceMatch(t, p)) << t << " ~ " << p;
-  }
-  EXPECT_TRUE(matchesWildcard("TEARS", "*[!X]R[A-Z]"));
-  EXPECT_FALSE(matchesWildcard("TEARS", "*[XY]*"));
+  EXPECT_TRUE(matchesWildcard("TEARS", "*[!X]R[A-Z]") && matchesWildcard("AB1AB", "*B#*AB"));
+  EXPECT_FALSE(matchesWildcard("TEARS", "*[XY]*") || matchesWildcard("ABAB", "*BA"));
 }
 
 }  // namespace

@@ -2,6 +2,11 @@
 // verification and zoom.
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "core/play/boardscene.h"
 #include "core/play/entry.h"
 #include "core/play/layout.h"
@@ -27,22 +32,14 @@ struct PlayBoard {
 };
 
 TEST(BoardLayout, OriginsCellPositionsAndLetterOffsets) {
-  PlayBoard size22(22);
-  EXPECT_EQ(size22.layout.BoardLeft, 100);
-  EXPECT_EQ(size22.layout.BoardTop, 200);
-  EXPECT_EQ(size22.layout.CellX[1][5], 1000);
-  EXPECT_EQ(size22.layout.CellY[12][18], 11 * 375 + 200);  // the extra row and column exist
-  EXPECT_EQ(size22.layout.pictureWidth, 19 * 225);
-  EXPECT_EQ(size22.layout.pictureHeight, 13 * 375);
-  EXPECT_EQ(size22.layout.markerSide, 112);
-  EXPECT_EQ(boardOrigin(7).y, 400);
-  EXPECT_EQ(boardOrigin(10).x, 600);
-  EXPECT_EQ(boardOrigin(17).y, 700);
-
-  EXPECT_EQ(size22.layout.LetterDX[2], 270);  // W + W/5
-  EXPECT_EQ(size22.layout.LetterDY[2], 47);   // H/8 = 46.875
-  EXPECT_EQ(size22.layout.LetterDY[5], 500);
-  EXPECT_EQ(size22.layout.LetterDX[3], 495);
+  const BoardLayout l = PlayBoard(22).layout;
+  EXPECT_EQ(std::vector({l.BoardLeft, l.BoardTop, l.CellX[1][5], l.CellY[12][18]}),
+            std::vector({100, 200, 1000, 11 * 375 + 200}));  // the extra row and column exist
+  EXPECT_EQ(std::vector({l.pictureWidth, l.pictureHeight, l.markerSide}), std::vector({19 * 225, 13 * 375, 112}));
+  EXPECT_EQ(std::vector({boardOrigin(7).y, boardOrigin(10).x, boardOrigin(17).y}), std::vector({400, 600, 700}));
+  // W + W/5 across, H/8 = 46.875 down.
+  EXPECT_EQ(std::vector({l.LetterDX[2], l.LetterDY[2], l.LetterDY[5], l.LetterDX[3]}),
+            std::vector({270, 47, 500, 495}));
 }
 
 TEST(BoardLayout, HexagonOneOfSize22HasItsCornersOnThePixelsOfTheTemplate) {
@@ -113,16 +110,11 @@ TEST(PointerEntry, PointerSelectsCellsOfHexagonsAndClearsElsewhere) {
 }
 
 TEST(PointerEntry, KeysTypeUpperCaseLettersAndAtAndSwallowTheRest) {
-  EXPECT_EQ(entryForKey('a'), "A");
-  EXPECT_EQ(entryForKey('@'), "@");
-  EXPECT_EQ(entryForKey('.'), "");
-  EXPECT_EQ(entryForKey(27), "");
-  EXPECT_EQ(entryForKey('['), std::nullopt);
-  EXPECT_EQ(entryForKey('1'), std::nullopt);
-  EXPECT_EQ(entryForKey(8), std::nullopt);
-  EXPECT_EQ(directionForKey(39), 'R');
-  EXPECT_EQ(directionForKey(36), 'H');
-  EXPECT_EQ(directionForKey(65), 0);
+  const std::pair<int, std::optional<std::string>> keys[] = {
+      {'a', "A"}, {'@', "@"}, {'.', ""}, {27, ""}, {'[', std::nullopt}, {'1', std::nullopt}, {8, std::nullopt}};
+  for (const auto& [key, entry] : keys) EXPECT_EQ(entryForKey(key), entry) << key;
+  EXPECT_EQ(std::vector({directionForKey(39), directionForKey(36), directionForKey(65)}),
+            std::vector<char>({'R', 'H', 0}));
 }
 
 TEST(PointerEntry, TypingRecordsUndoAndUndoWalksBack) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace combwise {
 namespace {
 
@@ -19,15 +21,12 @@ TEST(MessageStyleTest, CaseBlanksAndOrderDoNotMatter) {
   const MessageStyle plain = parseMessageStyle("vbquestion+vbyesno");
   EXPECT_EQ(shownIcons(plain), std::vector<int>{0});
   EXPECT_EQ(plain.buttons, (Buttons{{"Yes", 6}, {"No", 7}}));
-  const MessageStyle spaced = parseMessageStyle("vbQuestion + vbYesNo");
-  EXPECT_EQ(spaced.icons, plain.icons);
-  EXPECT_EQ(spaced.buttons, plain.buttons);
-
-  const MessageStyle okFirst = parseMessageStyle("vbok+vbcritical");
-  const MessageStyle iconFirst = parseMessageStyle("vbcritical+vbok");
-  EXPECT_EQ(okFirst.icons, iconFirst.icons);
-  EXPECT_EQ(okFirst.buttons, iconFirst.buttons);
-  EXPECT_TRUE(okFirst.shows(MessageIcon::Critical));
+  for (const auto& [one, other] :
+       {std::pair{"vbquestion+vbyesno", "vbQuestion + vbYesNo"}, std::pair{"vbok+vbcritical", "vbcritical+vbok"}}) {
+    EXPECT_EQ(parseMessageStyle(one).icons, parseMessageStyle(other).icons) << other;
+    EXPECT_EQ(parseMessageStyle(one).buttons, parseMessageStyle(other).buttons) << other;
+  }
+  EXPECT_TRUE(parseMessageStyle("vbok+vbcritical").shows(MessageIcon::Critical));
 }
 
 TEST(MessageStyleTest, WithoutAButtonKeywordTheBoxHasOneOk) {
@@ -56,9 +55,13 @@ TEST(MessageStyleTest, EveryButtonKeywordGivesItsCaptionsAndCodes) {
       {"vbyes+vbno", {{"Yes", 6}, {"No", 7}}},
       {"vbyesnocancel", {{"Yes", 6}, {"No", 7}, {"Cancel", 2}}},
       {"vbcontinuecancel", {{"Continue", 6}, {"Cancel", 2}}},
+      // Buttons beyond the third place are dropped.
+      {"vbyesnocancel+vbok", {{"Yes", 6}, {"No", 7}, {"Cancel", 2}}},
+      {"vbok+vbyesnocancel", {{"Ok", 1}, {"Yes", 6}, {"No", 7}}},
   };
   for (const auto& [style, buttons] : cases) EXPECT_EQ(parseMessageStyle(style).buttons, buttons) << style;
   EXPECT_EQ(shownIcons(parseMessageStyle("vbcontinuecancel")), std::vector<int>{2});
+  EXPECT_EQ(parseMessageStyle("vbok+vbyesnocancel").lastButtonIndex(), 2);
 }
 
 TEST(MessageStyleTest, IconsAccumulateAndOnlyKeywordsShowThem) {
@@ -67,12 +70,6 @@ TEST(MessageStyleTest, IconsAccumulateAndOnlyKeywordsShowThem) {
             (std::vector<int>{1, 2, 3, 5, 7, 8, 10}));
   // Whole pieces only: a keyword inside a longer piece is not a keyword.
   EXPECT_TRUE(shownIcons(parseMessageStyle("vbquestions+xvbhappy")).empty());
-}
-
-TEST(MessageStyleTest, ButtonsBeyondTheThirdPlaceAreDropped) {
-  EXPECT_EQ(parseMessageStyle("vbyesnocancel+vbok").buttons, (Buttons{{"Yes", 6}, {"No", 7}, {"Cancel", 2}}));
-  EXPECT_EQ(parseMessageStyle("vbok+vbyesnocancel").buttons, (Buttons{{"Ok", 1}, {"Yes", 6}, {"No", 7}}));
-  EXPECT_EQ(parseMessageStyle("vbok+vbyesnocancel").lastButtonIndex(), 2);
 }
 
 constexpr MessageBoxDesign kDesign{900, 240, 5100, 1200, 405};
@@ -90,7 +87,7 @@ TEST(ArrangeMessageBoxTest, LabelButtonsAndFormFollowTheTextHeight) {
   EXPECT_EQ(fourLines.formHeight - oneLine.formHeight, 3 * 240);
 }
 
-TEST(ArrangeMessageBoxTest, ButtonsTouchAndAreCentredAsARow) {
+TEST(ArrangeMessageBoxTest, ButtonsTouchAndAreCentredAsARowThatWideButtonsWiden) {
   for (int last = 0; last < kMessageButtonPlaces; ++last) {
     const MessageBoxLayout layout = arrangeMessageBox(kDesign, 240, last);
     ASSERT_EQ(layout.visibleButtons, last + 1);
@@ -99,13 +96,10 @@ TEST(ArrangeMessageBoxTest, ButtonsTouchAndAreCentredAsARow) {
     EXPECT_EQ(layout.buttonLefts[0], rightMargin) << last;
   }
   EXPECT_EQ(arrangeMessageBox(kDesign, 240, 1).buttonLefts[0], (6900 - 2400) / 2);
-}
-
-TEST(ArrangeMessageBoxTest, WideButtonsWidenTheForm) {
-  const MessageBoxDesign wide{900, 240, 5100, 2500, 405};
-  const MessageBoxLayout layout = arrangeMessageBox(wide, 240, 2);
-  EXPECT_EQ(layout.formWidth, 7500);
-  EXPECT_EQ(layout.buttonLefts[0], 0);
+  // Wide buttons widen the form.
+  const MessageBoxLayout wide = arrangeMessageBox({900, 240, 5100, 2500, 405}, 240, 2);
+  EXPECT_EQ(wide.formWidth, 7500);
+  EXPECT_EQ(wide.buttonLefts[0], 0);
 }
 
 }  // namespace

@@ -37,9 +37,9 @@ TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
   const CluePanel panel = layOutClues(state, m, 700);  // text column 700 - 20 - 450 = 230 twips
   std::vector<std::string> texts;
   for (const auto& line : panel.lines) texts.push_back(line.text);
-  EXPECT_EQ(texts, (std::vector<std::string>{"--", " INSIDE CLUES:", "01. ", "inside one is long", "enough to wrap",
-                                             "02. ", "inside two", "--", " OUTSIDE CLUES:", "01. ", "outside one",
-                                             "02. ", "--"}));
+  EXPECT_EQ(texts,
+            (std::vector<std::string>{"--", " INSIDE CLUES:", "01. ", "inside one is long", "enough to wrap", "02. ",
+                                      "inside two", "--", " OUTSIDE CLUES:", "01. ", "outside one", "02. ", "--"}));
   // The number and the first line of its clue share a line; the clue goes on below.
   EXPECT_EQ(panel.lines[2].y, panel.lines[3].y);
   EXPECT_EQ(panel.lines[3].x, kClueColumn);
@@ -60,19 +60,6 @@ TEST(Browsing, ArrowsWrapAndTheRightButtonJumpsToTheEnds) {
   EXPECT_EQ(arrowTarget(3, 1, 3, 10, none), std::nullopt);
   EXPECT_EQ(arrowTarget(1, 1, 3, 10, [] { return 0.0; }), 1);
   EXPECT_EQ(arrowTarget(1, 1, 3, 10, [] { return 0.99999; }), 10);
-}
-
-TEST(Browsing, RecentFilesKeepTheirOrderAndDropTheSixth) {
-  std::array<RecentFile, Settings::kRecentFiles> menu{};
-  for (const char* path : {"a", "b", "c"}) addRecentFile(menu, path);
-  addRecentFile(menu, "a");  // already there: not moved up
-  EXPECT_EQ(menu[0].path, "c");
-  EXPECT_EQ(menu[2].path, "a");
-  EXPECT_FALSE(menu[3].shown);
-  for (const char* path : {"d", "e", "f"}) addRecentFile(menu, path);
-  EXPECT_EQ(menu[0].path, "f");
-  EXPECT_EQ(menu[4].path, "b");  // "a" was pushed out
-  for (const auto& entry : menu) EXPECT_TRUE(entry.shown);
 }
 
 TEST(Browsing, StartsWithTheConfiguredCollectionOrTheReadymadeOne) {
