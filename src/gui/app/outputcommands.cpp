@@ -18,6 +18,7 @@
 #include "core/generator/puzzlemaker.h"
 #include "core/model/random.h"
 #include "core/model/text.h"
+#include "gui/app/busypointer.h"
 #include "gui/app/mainwindow.h"
 #include "gui/output/pageimage.h"
 #include "gui/output/pdftarget.h"
@@ -33,14 +34,6 @@ namespace {
 QString text(const std::string& value) { return QString::fromStdString(value); }
 
 void letEventsRun() { QCoreApplication::processEvents(); }
-
-class BusyPointer {
- public:
-  BusyPointer() { QApplication::setOverrideCursor(Qt::BusyCursor); }
-  ~BusyPointer() { QApplication::restoreOverrideCursor(); }
-  BusyPointer(const BusyPointer&) = delete;
-  BusyPointer& operator=(const BusyPointer&) = delete;
-};
 
 // The batch's small progress window: its caption and label show the
 // running count.
