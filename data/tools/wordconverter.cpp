@@ -38,9 +38,9 @@ bool isBannedDomain(const Synset& domain) {
 
 // Words that WordNet leaves unmarked in some of their crude or slurring
 // senses, which no clue makes fit for a family puzzle.
-constexpr std::array<std::string_view, 17> kUnprintable = {"bugger", "clit", "crap", "cunt", "dyke", "fag",
-                                                           "faggot", "fuck", "gook", "homo", "piss", "porn",
-                                                           "retard", "shit", "slut", "twat", "whore"};
+constexpr std::array<std::string_view, 18> kUnprintable = {"bugger", "clit",   "crap",   "cunt", "dyke", "fag",
+                                                           "faggot", "fuck",   "goddam", "gook", "homo", "piss",
+                                                           "porn",   "retard", "shit",   "slut", "twat", "whore"};
 
 }  // namespace
 
