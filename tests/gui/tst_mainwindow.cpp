@@ -9,6 +9,7 @@
 #include <QtTest>
 #include <memory>
 
+#include "core/play/entry.h"
 #include "gui/app/mainwindow.h"
 #include "gui/play/boardpicture.h"
 #include "gui/ui/boxcontrol.h"
@@ -214,10 +215,7 @@ class TestMainWindow : public QObject {
     QTest::mouseRelease(verify, Qt::LeftButton);
     QVERIFY(game.window->boardPicture()->marks().empty());
 
-    const Board& board = game.window->board();
-    for (int r = 1; r <= board.rows(); ++r)
-      for (int c = 1; c <= board.cols(); ++c)
-        if (board.HexAt(r, c) && !board.FreeCell(r, c)) puzzle.Entries.at(r, c) = puzzle.Letters.at(r, c);
+    revealHexagons(game.window->board(), puzzle, game.window->board().hexCount());
     QTest::mousePress(verify, Qt::LeftButton);
     QCOMPARE(game.status(), QString("All Done ..."));
     QCOMPARE(game.prompter.messages.last().prompt, QString("All done !"));

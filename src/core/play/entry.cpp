@@ -108,6 +108,17 @@ void RecordUndo(PuzzleState& state, int row, int col) {
   state.UndoList.push_front(undoRecord(row, col, state.Entries.at(row, col)));
 }
 
+void revealHexagons(const Board& board, PuzzleState& state, int count) {
+  for (int n = 1; n <= count && n <= board.hexCount(); ++n) {
+    for (int k = 1; k <= 6; ++k) {
+      const int cell = board.InsideCells(n, k);
+      const int r = board.CellRow(cell);
+      const int c = board.CellCol(cell);
+      if (board.FreeCell(r, c) == 0) state.Entries.at(r, c) = state.Letters.at(r, c);
+    }
+  }
+}
+
 bool undoLast(PuzzleState& state) {
   if (state.UndoList.empty()) return false;
   const std::string record = state.UndoList.front();

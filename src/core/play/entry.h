@@ -58,6 +58,10 @@ std::optional<GridPos> MoveSelection(const Board& board, PuzzleState& state, cha
 std::string undoRecord(int row, int col, const std::string& previous);
 void RecordUndo(PuzzleState& state, int row, int col);
 
+// Puts the solution letters of the first `count` hexagons on their
+// non-free cells as entries, as a player who had solved them would have.
+void revealHexagons(const Board& board, PuzzleState& state, int count);
+
 // Takes back the newest change: the cell gets its old entry and the record
 // goes. False when there is nothing to undo.
 bool undoLast(PuzzleState& state);

@@ -6,22 +6,14 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include "core/play/entry.h"
 #include "gui/app/mainwindow.h"
 #include "gui/play/boardpicture.h"
 
 namespace combwise {
 
 void revealHexagons(MainWindow& window, int count) {
-  const Board& board = window.board();
-  PuzzleState& puzzle = window.puzzle();
-  for (int n = 1; n <= count && n <= board.hexCount(); ++n) {
-    for (int k = 1; k <= 6; ++k) {
-      const int cell = board.InsideCells(n, k);
-      const int r = board.CellRow(cell);
-      const int c = board.CellCol(cell);
-      if (board.FreeCell(r, c) == 0) puzzle.Entries.at(r, c) = puzzle.Letters.at(r, c);
-    }
-  }
+  revealHexagons(window.board(), window.puzzle(), count);
   window.boardPicture()->DrawBoard(LetterMode::Play);
 }
 

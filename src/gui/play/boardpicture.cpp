@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "core/play/entry.h"
+
 namespace combwise {
 
 BoardPicture::BoardPicture(const Board& board, const PuzzleState& state, const BoardLayout& layout, QWidget* parent)
@@ -49,8 +51,7 @@ void BoardPicture::applyLayout() {
 }
 
 void BoardPicture::showMarkerAt(int row, int col) {
-  const PixelPoint at{m_layout.cellX(row, col) + m_layout.CellWidth / 4,
-                      m_layout.cellY(row, col) + m_layout.CellHeight / 4};
+  const PixelPoint at = markerPosition(m_layout, row, col);
   m_marker->move(qRound(at.x / m_layout.TwipsPerPixelX), qRound(at.y / m_layout.TwipsPerPixelY));
   m_marker->show();
   m_marker->raise();
