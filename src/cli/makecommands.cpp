@@ -130,12 +130,10 @@ int runCreate(Context& context, const Arguments& args) {
     context.err << "combwise-cli create: " << kLargePuzzleRefusal << "\n";
     return 1;
   }
-  for (const std::string& input : {dictionaryPath, meaningsPath}) {
-    if (sameFile(*output, input)) {
-      context.err << "combwise-cli create: " << *output
-                  << " is an input of this command; puzzles are not appended to it\n";
-      return 1;
-    }
+  if (outputIsAnInput(*output, {dictionaryPath, meaningsPath})) {
+    context.err << "combwise-cli create: " << *output
+                << " is an input of this command; puzzles are not appended to it\n";
+    return 1;
   }
   LoadedWords words(context.programFolder);
   if (!loadWords(context, "create", dictionaryPath, meaningsPath, words)) return 1;

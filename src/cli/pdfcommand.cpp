@@ -15,9 +15,9 @@
 #include "core/files/textfile.h"
 #include "core/model/text.h"
 #include "core/play/printrange.h"
-#include "gui/output/pdftarget.h"
-#include "gui/output/rangeprinter.h"
-#include "gui/play/boardpainter.h"
+#include "render/boardpainter.h"
+#include "render/pdftarget.h"
+#include "render/rangeprinter.h"
 
 namespace combwise::cli {
 namespace {
@@ -85,7 +85,7 @@ int runPdf(Context& context, const Arguments& args) {
     context.err << "combwise-cli pdf: " << range.message << "\n";
     return 2;
   }
-  if (sameFile(*output, path) || sameFile(*output, context.meaningsPath())) {
+  if (outputIsAnInput(*output, {path, context.meaningsPath()})) {
     context.err << "combwise-cli pdf: " << *output << " is an input of this command; it is not overwritten\n";
     return 1;
   }

@@ -131,7 +131,7 @@ int runClues(Context& context, const Arguments& args) {
     return 2;
   }
   const std::string& path = parsed.positional[0];
-  if (sameFile(*output, path) || sameFile(*output, context.meaningsPath())) {
+  if (outputIsAnInput(*output, {path, context.meaningsPath()})) {
     context.err << "combwise-cli clues: " << *output << " is an input of this command; it is not overwritten\n";
     return 1;
   }

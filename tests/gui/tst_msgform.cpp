@@ -15,15 +15,21 @@ namespace combwise {
 class TestMsgForm : public QObject {
   Q_OBJECT
 
-  // Shows the box modally and, once it is up, acts on it as a user would.
+  static constexpr int kNeverActive = -1;
+
+  // Shows the box modally and, once it is up, acts on it as a user would;
+  // returns the box's answer, or kNeverActive when it never became active.
+  // The act only records what it sees: a failed check inside it would leave
+  // the modal box open for ever.
   static int answer(MsgForm& form, const QString& prompt, const QString& style, std::function<void()> act) {
-    QTimer::singleShot(0, &form, [&form, act] {
-      QVERIFY(QTest::qWaitForWindowActive(&form));
-      act();
-      // A box still open after the act would block the test for ever.
+    bool active = false;
+    QTimer::singleShot(0, &form, [&form, &active, act] {
+      active = QTest::qWaitForWindowActive(&form);
+      if (active) act();
       if (form.isVisible()) QTest::mouseClick(form.button(0), Qt::LeftButton);
     });
-    return form.ShowMessage(prompt, style);
+    const int result = form.ShowMessage(prompt, style);
+    return active ? result : kNeverActive;
   }
 
  private slots:
@@ -52,8 +58,9 @@ class TestMsgForm : public QObject {
   void onlyAReleaseOnAButtonOrEnterOnItCloses() {
     MsgForm form;
     bool stillOpen = false;
+    QWidget* focused = nullptr;
     const int result = answer(form, "Reset puzzle?", "vbquestion+vbyesno", [&] {
-      QCOMPARE(QApplication::focusWidget(), form.button(0));
+      focused = QApplication::focusWidget();
       for (Qt::Key key : {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Y, Qt::Key_N})
         QTest::keyClick(QApplication::focusWidget(), key);
       BoxControl* no = form.button(1);
@@ -65,6 +72,7 @@ class TestMsgForm : public QObject {
       no->setFocus();
       QTest::keyClick(no, Qt::Key_Return);
     });
+    QCOMPARE(focused, form.button(0));
     QVERIFY(stillOpen);
     QCOMPARE(result, 7);
   }
@@ -131,21 +139,27 @@ class TestMsgForm : public QObject {
     QWidget window;
     WindowPrompter prompter(&window);
     MsgForm* box = &prompter.messageForm();
-    QTimer::singleShot(0, box, [box] {
-      QVERIFY(QTest::qWaitForWindowActive(box));
+    bool boxActive = false;
+    QTimer::singleShot(0, box, [box, &boxActive] {
+      boxActive = QTest::qWaitForWindowActive(box);
       QTest::mouseClick(box->button(1), Qt::LeftButton);
     });
     QCOMPARE(prompter.ShowMessage("Exit?", "vbQuestion + vbYesNo"), 7);
+    QVERIFY(boxActive);
     QCOMPARE(&prompter.messageForm(), box);
     QCOMPARE(box->windowTitle(), QString("Combwise Message"));
 
     // The plain Yes/No question keeps the file when Enter is pressed.
     QString title;
     QTimer::singleShot(0, [&title] {
-      QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
-      auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      title = question->windowTitle();
-      QTest::keyClick(question, Qt::Key_Return);
+      if (!QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; })) return;
+      QWidget* modal = QApplication::activeModalWidget();
+      if (auto* question = qobject_cast<QMessageBox*>(modal)) {
+        title = question->windowTitle();
+        QTest::keyClick(question, Qt::Key_Return);
+      } else if (modal) {
+        modal->close();
+      }
     });
     QVERIFY(!prompter.confirm("Overwrite clues.txt?"));
     QCOMPARE(title, QString("Combwise"));

@@ -292,8 +292,8 @@ std::string beyondCountMessage(int n, int count) {
   return "there is no puzzle " + NumberText(n) + ": N must be from 1 to " + NumberText(count) + ", or -1 for the last";
 }
 
-std::string withDefaultExtension(const std::string& path) {
-  return path.find('.') == std::string::npos ? path + ".txt" : path;
+std::string withDefaultExtension(const std::string& path, std::string_view extension) {
+  return path.find('.') == std::string::npos ? path + std::string(extension) : path;
 }
 
 }  // namespace combwise

@@ -126,8 +126,12 @@ std::string positionText(int number, int count);
 std::string noPuzzlesMessage(const std::string& path);
 // "there is no puzzle 900: N must be from 1 to 800, or -1 for the last".
 std::string beyondCountMessage(int n, int count);
-// A save name with no "." anywhere in its path gets ".txt"; any other name
-// is kept as it is, even when its only dot is in a folder name.
-std::string withDefaultExtension(const std::string& path);
+inline constexpr std::string_view kTextExtension = ".txt";
+inline constexpr std::string_view kPdfExtension = ".pdf";
+
+// A save name with no "." anywhere in its path gets the extension (".txt"
+// or ".pdf"); any other name is kept as it is, even when its only dot is
+// in a folder name.
+std::string withDefaultExtension(const std::string& path, std::string_view extension = kTextExtension);
 
 }  // namespace combwise

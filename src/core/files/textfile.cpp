@@ -250,6 +250,10 @@ bool sameFile(const std::string& a, const std::string& b) {
   return !error && same;
 }
 
+bool outputIsAnInput(const std::string& output, const std::vector<std::string>& inputs) {
+  return std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) { return sameFile(output, input); });
+}
+
 bool fileHasContent(const std::string& path) {
   std::error_code error;
   const auto size = std::filesystem::file_size(path, error);

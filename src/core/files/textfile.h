@@ -112,6 +112,10 @@ bool replaceFileContent(const std::string& path, std::string_view content);
 // other spellings of the same path).
 bool sameFile(const std::string& a, const std::string& b);
 
+// True when `output` is one of `inputs` as sameFile sees it: a command
+// never writes over a file it reads, however the path is spelt.
+bool outputIsAnInput(const std::string& output, const std::vector<std::string>& inputs);
+
 // A file counts as existing when it can be opened and its length is not 0.
 bool fileHasContent(const std::string& path);
 

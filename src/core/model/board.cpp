@@ -48,11 +48,6 @@ int Board::nextSize(int size) {
   return kSizes.front();
 }
 
-const char* Board::freeCellList(int size) {
-  const SizeRow* row = sizeRow(size);
-  return row ? row->freeCells : "";
-}
-
 void Board::clear() { *this = Board(); }
 
 bool Board::setUp(int size) {

@@ -61,10 +61,6 @@ class Board {
   // Number of non-zero outside cells of a hexagon (3 to 6 on real boards).
   int outsideCount(int hex) const;
 
-  // The free cells of each size, as the program holds them: comma-separated
-  // with a trailing comma, not all in ascending order.
-  static const char* freeCellList(int size);
-
  private:
   void clear();
   static bool inStorage(int row, int col) { return row >= 0 && row <= kMaxRow && col >= 0 && col <= kMaxCol; }

@@ -20,13 +20,13 @@
 #include "core/model/text.h"
 #include "gui/app/busypointer.h"
 #include "gui/app/mainwindow.h"
-#include "gui/output/pageimage.h"
-#include "gui/output/pdftarget.h"
 #include "gui/output/printertarget.h"
 #include "gui/output/prntform.h"
-#include "gui/output/rangeprinter.h"
 #include "gui/play/boardpicture.h"
 #include "gui/ui/prompter.h"
+#include "render/pageimage.h"
+#include "render/pdftarget.h"
+#include "render/rangeprinter.h"
 
 namespace combwise {
 namespace {
@@ -174,8 +174,7 @@ void OutputCommands::printToPdf(int first, int last) {
   const QString chosen = m_window.fileChooser().chooseFile(
       {"Save as PDF", "*.pdf", "PDF Files", text(m_window.programFolder()), "SAVE", {}});
   if (chosen.trimmed().isEmpty()) return;
-  QString path = chosen;
-  if (!path.contains('.')) path += ".pdf";
+  const QString path = text(withDefaultExtension(chosen.toStdString(), kPdfExtension));
   if (nonEmptyFile(path.toStdString()) && !m_window.prompter().confirm("OverWrite file: " + path + " ?")) return;
   std::unique_ptr<PrintTarget> file =
       m_services.pdfFile ? m_services.pdfFile(path) : std::make_unique<PdfTarget>(path);
@@ -202,7 +201,7 @@ void OutputCommands::cluesToTextFile() {
   const PuzzleState& state = m_window.puzzle();
   // The listing replaces its file: never the collection it lists, nor the
   // meanings the clues come from.
-  if (sameFile(path, state.CollectionPath) || sameFile(path, m_window.programFolder() + "mean3456.txt")) {
+  if (outputIsAnInput(path, {state.CollectionPath, m_window.programFolder() + "mean3456.txt"})) {
     m_window.prompter().ShowMessage(text(path) + " is read by the game; choose another file", "vbok+vbcritical");
     return;
   }

@@ -12,8 +12,8 @@
 
 #include "core/files/cluelisting.h"
 #include "gui/output/clipboardsink.h"
-#include "gui/output/printedpage.h"
-#include "gui/output/printtarget.h"
+#include "render/printedpage.h"
+#include "render/printtarget.h"
 
 class QAction;
 

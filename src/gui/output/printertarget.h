@@ -6,7 +6,7 @@
 #include <QPrinter>
 #include <memory>
 
-#include "gui/output/printtarget.h"
+#include "render/printtarget.h"
 
 namespace combwise {
 

@@ -13,7 +13,7 @@
 #include "core/model/puzzlestate.h"
 #include "core/play/boardscene.h"
 #include "core/play/layout.h"
-#include "gui/play/boardpainter.h"
+#include "render/boardpainter.h"
 
 namespace combwise {
 

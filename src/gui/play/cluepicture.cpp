@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QWheelEvent>
 
-#include "gui/play/boardpainter.h"
+#include "render/boardpainter.h"
 
 namespace combwise {
 

@@ -81,6 +81,8 @@ TEST_F(CollectionFile, WrittenPuzzlesReadBackAndTheBoardIsRebuiltOnlyOnASizeSwit
   EXPECT_FALSE(writePuzzle(path, WriteMode::Append, PuzzleState{}).ok());  // no puzzle yet
   EXPECT_EQ(withDefaultExtension(folder.file("set")), path);
   EXPECT_EQ(withDefaultExtension("my.files/puz"), "my.files/puz");
+  EXPECT_EQ(withDefaultExtension("/tmp/range", kPdfExtension), "/tmp/range.pdf");
+  EXPECT_EQ(withDefaultExtension("range.txt", kPdfExtension), "range.txt");
   state.Entries.at(3, 6) = "Q";
   state.SelRow = 3;
   state.UndoList.push_front("record");

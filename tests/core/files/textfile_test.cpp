@@ -126,5 +126,21 @@ TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCause) {
   EXPECT_FALSE(sameFile(file, temp.file("none.txt")));
 }
 
+TEST(TextFileErrors, AnOutputIsAnInputUnderAnyOtherSpelling) {
+  TempFolder temp;
+  const std::string input = temp.file("set.txt"), other = temp.file("other.txt");
+  putFile(input, "x\r\n");
+  putFile(other, "y\r\n");
+  std::filesystem::create_directory(temp.file("sub"));
+  std::filesystem::create_symlink(input, temp.file("link.txt"));
+  const std::vector<std::string> inputs{other, input};
+  EXPECT_TRUE(outputIsAnInput(input, inputs));
+  EXPECT_TRUE(outputIsAnInput(temp.folder() + "sub/../set.txt", inputs));
+  EXPECT_TRUE(outputIsAnInput(temp.file("link.txt"), inputs));
+  EXPECT_FALSE(outputIsAnInput(temp.file("new.txt"), inputs));  // not there yet
+  EXPECT_FALSE(outputIsAnInput(temp.file("sub"), inputs));
+  EXPECT_FALSE(outputIsAnInput(input, {}));
+}
+
 }  // namespace
 }  // namespace combwise

@@ -1,5 +1,5 @@
 // Prints a run of puzzle pages.
-#include "gui/output/rangeprinter.h"
+#include "render/rangeprinter.h"
 
 #include <QPainter>
 

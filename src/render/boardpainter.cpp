@@ -1,5 +1,5 @@
 // Paints board scenes and the clue panel.
-#include "gui/play/boardpainter.h"
+#include "render/boardpainter.h"
 
 #include <QPaintDevice>
 #include <QPainter>

@@ -6,7 +6,7 @@
 #include <QPdfWriter>
 #include <memory>
 
-#include "gui/output/printtarget.h"
+#include "render/printtarget.h"
 
 namespace combwise {
 

@@ -1,10 +1,10 @@
 // Draws the page picture for the clipboard.
-#include "gui/output/pageimage.h"
+#include "render/pageimage.h"
 
 #include <QPainter>
 #include <cmath>
 
-#include "gui/play/boardpainter.h"
+#include "render/boardpainter.h"
 
 namespace combwise {
 

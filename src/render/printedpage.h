@@ -28,8 +28,8 @@ struct PrintLook {
   int outlineWidth = 2;        // the hexagon border width; outlines print twice as wide
   int screenCellWidth = 225;   // the screen board's cell: the header starts one cell in
   int screenCellHeight = 375;
-  ListingBanner banner;      // product name and the maker's site text
-  QFont wrapFont;            // the screen board's font, which clue wrapping measures with
+  ListingBanner banner;  // product name and the maker's site text
+  QFont wrapFont;        // the screen board's font, which clue wrapping measures with
 };
 
 // What a page shows: a puzzle as the window or the tool holds it.
@@ -39,7 +39,8 @@ struct PagePuzzle {
   PrintLook look;
 };
 
-// "Combwise Puzzle ...<site> - Puz# 12:<path>".
+// The puzzle sheet's header: the page header, ":" and the collection's
+// path ("Combwise Puzzle ...<site> - Puz# 12:<path>").
 QString puzzleHeader(const PagePuzzle& puzzle);
 
 // One board at (left, top). `solution` 0 draws the header and the puzzle

@@ -1,5 +1,5 @@
 // Writes printed pages to a PDF file.
-#include "gui/output/pdftarget.h"
+#include "render/pdftarget.h"
 
 #include <QFileInfo>
 #include <QPageLayout>

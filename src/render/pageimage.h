@@ -5,7 +5,7 @@
 
 #include <QImage>
 
-#include "gui/output/printedpage.h"
+#include "render/printedpage.h"
 
 namespace combwise {
 

@@ -6,8 +6,8 @@
 #include <functional>
 #include <optional>
 
-#include "gui/output/printedpage.h"
-#include "gui/output/printtarget.h"
+#include "render/printedpage.h"
+#include "render/printtarget.h"
 
 namespace combwise {
 

@@ -1,0 +1,80 @@
+// The printed clue listing's layout: where each line of the page goes.
+#include "core/play/printedclues.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace combwise {
+namespace {
+
+// Every character is 10 twips wide.
+class CharMeasure : public TextMeasure {
+ public:
+  double textWidth(std::string_view text) const override { return 10.0 * static_cast<double>(text.size()); }
+  double textHeight(std::string_view) const override { return 100.0; }
+};
+
+}  // namespace
+
+void PrintTo(const SheetLine& line, std::ostream* out) {
+  *out << "(" << line.x << ", " << line.y << ", \"" << line.text << "\", face " << static_cast<int>(line.font) << ")";
+}
+
+namespace {
+
+constexpr SheetLineHeights kHeights{60, 100, 110};
+
+TEST(PrintedClues, WrappedEmptyAndBrokenCluesKeepTheirPlaces) {
+  PuzzleState state;
+  state.WordCount = 4;
+  state.PuzzleNumber = 12;
+  state.CollectionPath = "/p/set.txt";
+  state.ClueTexts[1] = "outside one";
+  state.ClueTexts[2] = "inside one is long enough to need a second line";
+  state.ClueTexts[3] = "two\r\nlines";
+  const CharMeasure measure;
+  // The text column runs from 9600 to 10000: 40 characters.
+  const std::vector<SheetLine> lines = layOutPrintedClues(state, {}, measure, kHeights, 9200, 1000);
+  using F = SheetFont;
+  const std::vector<SheetLine> expected{
+      {9200, 1000, "Combwise Puzzle ...hexagonal crosswords - Puz# 12", F::Header},
+      {9200, 1060, "/p/set.txt -  12", F::Text},  // the number with its leading blank
+      {9200, 1700, "INSIDE CLUES:", F::Heading},
+      {9200, 2000, "01. ", F::Text},
+      {9600, 2000, "inside one is long enough to need a", F::Text},
+      {9600, 2100, "second line", F::Text},
+      {9200, 2248, "02. ", F::Text},  // no clue: the number's line alone
+      {9200, 2896, "OUTSIDE CLUES:", F::Heading},
+      {9200, 3106, "01. ", F::Text},
+      {9600, 3106, "outside one", F::Text},
+      {9200, 3254, "02. ", F::Text},
+      {9600, 3254, "two", F::Text},
+      {9600, 3354, "lines", F::Text},
+  };
+  EXPECT_EQ(lines, expected);
+}
+
+TEST(PrintedClues, OneLineCluesStepByALineAndTheGap) {
+  PuzzleState state;
+  state.WordCount = 20;
+  for (int k = 1; k <= 20; ++k) state.ClueTexts[static_cast<std::size_t>(k)] = "clue";
+  const CharMeasure measure;
+  const std::vector<SheetLine> lines = layOutPrintedClues(state, {"Hexes", "site"}, measure, kHeights, 1200, 1200);
+  ASSERT_EQ(lines.size(), 2u + 2u + 4u * 10u);
+  EXPECT_EQ(lines[0].text, "Hexes Puzzle ...site - Puz# 0");
+  // Inside entries from top + 1000, each 100 + 48 below the one before.
+  for (int h = 1; h <= 10; ++h) {
+    const SheetLine& number = lines[static_cast<std::size_t>(3 + 2 * (h - 1))];
+    EXPECT_EQ(number.y, 2200 + 148 * (h - 1)) << h;
+    EXPECT_EQ(number.x, 1200);
+  }
+  EXPECT_EQ(lines[21].text, "10. ");
+  EXPECT_EQ(lines[22].x, 1600);
+  EXPECT_EQ(lines[23].text, "OUTSIDE CLUES:");
+  EXPECT_EQ(lines[23].y, 2200 + 148 * 10 + 500);
+  EXPECT_EQ(lines[24].y, lines[23].y + 110 + 100);
+}
+
+}  // namespace
+}  // namespace combwise
