@@ -43,8 +43,8 @@ void drawBoard(QPainter& painter, const PagePuzzle& puzzle, int left, int top, i
   const int cellWidth = static_cast<int>(roundHalfEven(kPrintCellWidth * scale));
   const int cellHeight = static_cast<int>(roundHalfEven(kPrintCellHeight * scale));
   const Board& board = puzzle.board;
-  const BoardLayout layout = LayOutBoard(
-      {board.size(), board.rows(), board.cols(), cellWidth, cellHeight, twips.perPixelX, twips.perPixelY, left, top});
+  const BoardLayout layout = LayOutBoard({board.size(), board.rows(), board.cols(), cellWidth, cellHeight,
+                                          twips.perPixelX, twips.perPixelY, left, top});
   const QFont font = boardFont(puzzle.look.fontName, (puzzle.look.fontSize > 0 ? puzzle.look.fontSize : 10) * scale);
   const QtTextMeasure measure(font, painter.device(), twips);
   const int border = puzzle.look.outlineWidth > 0 ? puzzle.look.outlineWidth : 2;
@@ -60,13 +60,15 @@ QString puzzleHeader(const PagePuzzle& puzzle) {
   return text(pageHeader(puzzle.look.banner, puzzle.state.PuzzleNumber) + ":" + puzzle.state.CollectionPath);
 }
 
-void PrintPuzzle(QPainter& target, const PagePuzzle& puzzle, int left, int top, int solution, LetterMode sheetLetters) {
+void PrintPuzzle(QPainter& target, const PagePuzzle& puzzle, int left, int top, int solution,
+                 LetterMode sheetLetters) {
   if (puzzle.board.size() < 0) return;
   if (solution == 0) {
     target.save();
     target.setPen(Qt::black);
     target.setFont(boardFont(puzzle.look.fontName, 7));
-    printLine(target, Twips::of(*target.device()), left + puzzle.look.screenCellWidth, top - 400, puzzleHeader(puzzle));
+    printLine(target, Twips::of(*target.device()), left + puzzle.look.screenCellWidth, top - 400,
+              puzzleHeader(puzzle));
     target.restore();
   }
   drawBoard(target, puzzle, left, top, solution, sheetLetters);

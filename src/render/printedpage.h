@@ -28,8 +28,8 @@ struct PrintLook {
   int outlineWidth = 2;        // the hexagon border width; outlines print twice as wide
   int screenCellWidth = 225;   // the screen board's cell: the header starts one cell in
   int screenCellHeight = 375;
-  ListingBanner banner;  // product name and the maker's site text
-  QFont wrapFont;        // the screen board's font, which clue wrapping measures with
+  ListingBanner banner;      // product name and the maker's site text
+  QFont wrapFont;            // the screen board's font, which clue wrapping measures with
 };
 
 // What a page shows: a puzzle as the window or the tool holds it.

@@ -32,6 +32,9 @@ TEST(WordListUpkeep, InsertionSortingAndRemovals) {
   EXPECT_THAT(list.items(), ElementsAre("TEAR", "EAST", "SEAT"));
   EXPECT_EQ(list.Text(), "EAST");
   EXPECT_EQ(list.ItemData(2), 11);
+  EXPECT_EQ(list.FindItemData(11), 2);
+  EXPECT_EQ(list.FindItemData(12), -1);
+  EXPECT_EQ(list.NewIndex(), -1);
 
   clsSimpleArray sorted;
   sorted.setSorted(true);
