@@ -83,6 +83,8 @@ int main(int argc, char* argv[]) {
 
   QApplication app(argc, argv);
   QApplication::setApplicationName("Combwise");
+  // Lets the desktop match the window to the menu entry and its icon.
+  QGuiApplication::setDesktopFileName("combwise");
   QApplication::setStyle("Fusion");
 
   combwise::MainWindow window(combwise::programFolder(homeOption));
