@@ -8,6 +8,7 @@
 #include <ostream>
 
 #include "cli/commands.h"
+#include "core/files/programfiles.h"
 #include "core/files/programfolder.h"
 
 namespace combwise::cli {
@@ -32,6 +33,7 @@ constexpr const char* kUsage =
     "Options:\n"
     "  --home DIR   the program folder (dictionary, meanings); default: the\n"
     "               COMBWISE_HOME environment variable, else the tool's folder\n"
+    "               or, installed, /usr/share/combwise\n"
     "  --help       show this help; COMMAND --help shows a command's\n"
     "  --version    show the version\n";
 
@@ -80,6 +82,9 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
         return 2;
       }
       home = folder;
+    } else if (arg.size() > 1 && arg.front() == '-') {
+      err << "combwise-cli: unknown option '" << arg << "'\nTry 'combwise-cli --help' for the commands and options.\n";
+      return 2;
     } else {
       break;
     }
@@ -93,7 +98,7 @@ int runCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
     err << "combwise-cli: unknown command '" << args[at] << "'\n\n" << kUsage;
     return 2;
   }
-  Context context{programFolder(home), out, err, progressOnTerminal};
+  Context context{ProgramFiles(programFolder(home), userFolders()), out, err, progressOnTerminal};
   // Running out of memory is an error like any other: appends are whole
   // lines, so nothing written is lost.
   try {

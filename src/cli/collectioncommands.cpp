@@ -97,7 +97,7 @@ int runCheck(Context& context, const Arguments& args) {
     return 1;
   }
   const std::string dictionaryPath = parsed.value("--dictionary").value_or(context.dictionaryPath());
-  ErrorLog log(context.programFolder);
+  ErrorLog log(context.errorLogFolder());
   Dictionary dictionary(&log);
   if (Status read = readDictionary(dictionaryPath, dictionary); !read.ok()) {
     context.err << "combwise-cli check: " << read.error << "\n";

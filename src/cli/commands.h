@@ -7,18 +7,22 @@
 #include <string>
 #include <vector>
 
+#include "core/files/programfiles.h"
 #include "core/files/puzzlefile.h"
 
 namespace combwise::cli {
 
 struct Context {
-  std::string programFolder;  // ends with a separator
+  // The program folder for reading; batch output and the error log go to
+  // the user's folders when it cannot be written.
+  ProgramFiles files;
   std::ostream& out;
   std::ostream& err;
   bool progressOnTerminal = false;  // err is a terminal: draw progress bars
 
-  std::string dictionaryPath() const { return programFolder + "english3.txt"; }
-  std::string meaningsPath() const { return programFolder + "mean3456.txt"; }
+  std::string dictionaryPath() const { return files.readPath("english3.txt"); }
+  std::string meaningsPath() const { return files.readPath("mean3456.txt"); }
+  std::string errorLogFolder() const { return files.writeFolder(kErrorLogFile); }
 };
 
 using Arguments = std::vector<std::string>;

@@ -39,12 +39,13 @@ constexpr const char* kBatchHelp =
     "Usage: combwise-cli batch [--count K] [--jobs J] [--seed S] [--max-tries T]\n"
     "\n"
     "Appends 2000 puzzles (or K) of size 17, made from the program folder's\n"
-    "english3.txt, to puz-18sepsize17D.txt in the program folder. The file is\n"
-    "extended, never truncated.\n";
+    "english3.txt, to puz-18sepsize17D.txt in the program folder (in\n"
+    "~/.local/share/combwise when the program folder cannot be written). The\n"
+    "file is extended, never truncated.\n";
 
-// The word lists report their own errors to the program folder's error log.
+// The word lists report their own errors to the error log.
 struct LoadedWords {
-  explicit LoadedWords(const std::string& programFolder) : log(programFolder), dictionary(&log), meanings(&log) {}
+  explicit LoadedWords(const std::string& logFolder) : log(logFolder), dictionary(&log), meanings(&log) {}
   ErrorLog log;
   Dictionary dictionary;
   Meanings meanings;
@@ -135,7 +136,7 @@ int runCreate(Context& context, const Arguments& args) {
                 << " is an input of this command; puzzles are not appended to it\n";
     return 1;
   }
-  LoadedWords words(context.programFolder);
+  LoadedWords words(context.errorLogFolder());
   if (!loadWords(context, "create", dictionaryPath, meaningsPath, words)) return 1;
   return timedRun(context, "create", *output, options, [&](const std::function<void(int)>& progress) {
     return appendPuzzleLines(*output, words.dictionary, words.meanings, options, progress);
@@ -159,14 +160,12 @@ int runBatch(Context& context, const Arguments& args) {
     context.err << "combwise-cli batch: " << parsed.error << "\n\n" << kBatchHelp;
     return 2;
   }
-  Board board;
-  PuzzleState state;
-  LoadedWords words(context.programFolder);
-  PuzzleMaker maker(board, state, words.dictionary, words.meanings);
-  const std::string output = context.programFolder + kBatchFile;
+  LoadedWords words(context.errorLogFolder());
   options.dictionaryPath = context.dictionaryPath();
+  if (!loadWords(context, "batch", options.dictionaryPath, context.meaningsPath(), words)) return 1;
+  const std::string output = context.files.writePath(kBatchFile);
   const int status = timedRun(context, "batch", output, options, [&](const std::function<void(int)>& progress) {
-    return maker.runBatch(context.programFolder, options, progress);
+    return appendPuzzleLines(output, words.dictionary, words.meanings, options, progress);
   });
   if (status == 0) context.out << "done\n";
   return status;

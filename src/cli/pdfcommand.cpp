@@ -48,9 +48,10 @@ class OffscreenQt {
   std::unique_ptr<QGuiApplication> m_app;
 };
 
-PrintLook lookOf(const std::string& programFolder) {
+// configFolder: the folder that holds the configuration in use.
+PrintLook lookOf(const std::string& configFolder) {
   Settings settings;
-  ReadcfgFile(programFolder, settings);
+  ReadcfgFile(configFolder, settings);
   PrintLook look;
   if (!settings.boardFontName.empty()) look.fontName = QString::fromStdString(settings.boardFontName);
   if (settings.BoardFontSize > 0) look.fontSize = settings.BoardFontSize;
@@ -91,12 +92,12 @@ int runPdf(Context& context, const Arguments& args) {
   }
 
   OffscreenQt qt;
-  ErrorLog log(context.programFolder);
+  ErrorLog log(context.errorLogFolder());
   Meanings meanings(&log);
   Board board;
   PuzzleState state;
   state.PuzzleCount = count;
-  const PrintLook look = lookOf(context.programFolder);
+  const PrintLook look = lookOf(context.files.readFolder(kConfigFile));
   const PageLoader load = [&](int n) -> std::optional<PagePuzzle> {
     const PuzzleReadResult read = readPuzzle(path, n, board, state, ClueSource{&meanings, context.meaningsPath(), {}});
     if (!read.loaded()) {

@@ -30,7 +30,7 @@ constexpr const char* kCluesHelp =
     "OUT may never be FILE itself.\n";
 
 struct LoadedPuzzle {
-  explicit LoadedPuzzle(const std::string& programFolder) : log(programFolder), meanings(&log) {}
+  explicit LoadedPuzzle(const std::string& logFolder) : log(logFolder), meanings(&log) {}
   ErrorLog log;
   Board board;
   PuzzleState state;
@@ -92,7 +92,7 @@ int runShow(Context& context, const Arguments& args) {
     context.err << "combwise-cli show: " << parsed.error << "\n\n" << kShowHelp;
     return 2;
   }
-  LoadedPuzzle puzzle(context.programFolder);
+  LoadedPuzzle puzzle(context.errorLogFolder());
   const std::string& path = parsed.positional[0];
   if (!loadPuzzle(context, "show", path, *n, puzzle)) return 1;
 
@@ -139,7 +139,7 @@ int runClues(Context& context, const Arguments& args) {
     context.err << "combwise-cli clues: " << *output << " exists; give --force to replace it\n";
     return 1;
   }
-  LoadedPuzzle puzzle(context.programFolder);
+  LoadedPuzzle puzzle(context.errorLogFolder());
   if (!loadPuzzle(context, "clues", path, *n, puzzle)) return 1;
   if (Status written = writeClueListing(*output, puzzle.state); !written.ok()) {
     context.err << "combwise-cli clues: " << written.error << "\n";

@@ -68,6 +68,9 @@ TEST(CliCreate, BadArgumentsAndUnreadableFilesAreRefusedClearly) {
   EXPECT_FALSE(std::filesystem::exists(out));
   EXPECT_EQ(cli({"frobnicate"}).status, 2);
   EXPECT_EQ(cli({"show", "--help"}).status, 0);
+  const CliRun unknownOption = cli({"--frobnicate", "show"});
+  EXPECT_EQ(unknownOption.status, 2);
+  EXPECT_THAT(unknownOption.err, HasSubstr("unknown option '--frobnicate'"));
 }
 
 TEST(CliShowAndClues, ShowDrawsThePuzzleCluesWritesTheListingAndBadArgumentsAreSaid) {

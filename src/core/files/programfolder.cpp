@@ -5,7 +5,21 @@
 #include <filesystem>
 #include <system_error>
 
+// Where an installation keeps the data, seen from the folder of the
+// executables; the build sets it from the install folders.
+#ifndef COMBWISE_DATA_FROM_BIN
+#define COMBWISE_DATA_FROM_BIN "../share/combwise"
+#endif
+
 namespace combwise {
+namespace {
+
+bool holdsDictionary(const std::filesystem::path& folder) {
+  std::error_code error;
+  return std::filesystem::is_regular_file(folder / "english3.txt", error);
+}
+
+}  // namespace
 
 std::string withTrailingSeparator(std::string folder) {
   if (folder.empty()) return "./";
@@ -21,6 +35,14 @@ std::string executableFolder() {
   return withTrailingSeparator(error ? std::string(".") : current.string());
 }
 
+std::string dataFolderBeside(const std::string& executableDir, std::string_view relativeDataDir) {
+  const std::filesystem::path own(executableDir);
+  if (holdsDictionary(own)) return withTrailingSeparator(executableDir);
+  const std::filesystem::path installed = (own / relativeDataDir).lexically_normal();
+  if (holdsDictionary(installed)) return withTrailingSeparator(installed.string());
+  return withTrailingSeparator(executableDir);
+}
+
 std::string resolveProgramFolder(const std::optional<std::string>& homeOption, const char* homeEnvironment,
                                  const std::string& executableDir) {
   if (homeOption && !homeOption->empty()) return withTrailingSeparator(*homeOption);
@@ -29,7 +51,8 @@ std::string resolveProgramFolder(const std::optional<std::string>& homeOption, c
 }
 
 std::string programFolder(const std::optional<std::string>& homeOption) {
-  return resolveProgramFolder(homeOption, std::getenv("COMBWISE_HOME"), executableFolder());
+  return resolveProgramFolder(homeOption, std::getenv("COMBWISE_HOME"),
+                              dataFolderBeside(executableFolder(), COMBWISE_DATA_FROM_BIN));
 }
 
 }  // namespace combwise

@@ -1,0 +1,112 @@
+// Where the program reads and writes its files, with a writable and with a
+// read-only program folder, and where the user's folders are.
+#include "core/files/programfiles.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "core/files/errorlog.h"
+#include "core/files/programfolder.h"
+#include "support/tempfolder.h"
+
+namespace combwise {
+namespace {
+
+void writeFile(const std::string& path, const std::string& content) { std::ofstream(path) << content; }
+
+TEST(UserFolders, FollowTheXdgVariablesOnlyWhenTheyAreAbsolute) {
+  const UserFolders set = userFoldersFrom("/cfg", "/data/", "/home/ann");
+  EXPECT_EQ(set.config, "/cfg/combwise/");
+  EXPECT_EQ(set.data, "/data/combwise/");
+  for (const char* unusable : {static_cast<const char*>(nullptr), "", "relative/dir"}) {
+    const UserFolders fallback = userFoldersFrom(unusable, unusable, "/home/ann");
+    EXPECT_EQ(fallback.config, "/home/ann/.config/combwise/");
+    EXPECT_EQ(fallback.data, "/home/ann/.local/share/combwise/");
+  }
+}
+
+TEST(ProgramFiles, AWritableProgramFolderServesEveryFileAndCreatesNothingElse) {
+  TempFolder program;
+  TempFolder home;
+  const ProgramFiles files(program.folder(), {home.file("cfg"), home.file("data")});
+  EXPECT_FALSE(files.usesUserFolders());
+  for (const char* name : {kConfigFile, kErrorLogFile, "english3.txt", "tempcombwisepuzzle.txt"}) {
+    EXPECT_EQ(files.readPath(name), program.folder() + name);
+    EXPECT_EQ(files.writePath(name), program.folder() + name);
+  }
+  // A stray user copy does not shadow the program folder's file.
+  std::filesystem::create_directories(home.file("cfg"));
+  writeFile(home.file("cfg/combwise.cfg"), "user\n");
+  EXPECT_EQ(files.readPath(kConfigFile), program.folder() + kConfigFile);
+  EXPECT_FALSE(std::filesystem::exists(home.file("data")));
+}
+
+TEST(ProgramFiles, AReadOnlyProgramFolderSendsWritesToTheUserFoldersAndReadsThemFirst) {
+  TempFolder program;
+  TempFolder home;
+  writeFile(program.file("combwise.cfg"), "shipped\n");
+  writeFile(program.file("puzzles.txt"), "readymade\n");
+  const ProgramFiles files(program.folder(), {home.file("cfg"), home.file("data")}, false);
+  ASSERT_TRUE(files.usesUserFolders());
+
+  // Until the user has a copy, reading falls back to the program folder.
+  EXPECT_EQ(files.readPath(kConfigFile), program.folder() + kConfigFile);
+  EXPECT_EQ(files.readPath("puzzles.txt"), program.folder() + "puzzles.txt");
+
+  // Settings go to the config folder, everything else to the data folder;
+  // both are created on the way.
+  const std::string config = files.writePath(kConfigFile);
+  EXPECT_EQ(config, home.file("cfg") + "/combwise.cfg");
+  EXPECT_TRUE(std::filesystem::is_directory(home.file("cfg")));
+  for (const char* name : {kErrorLogFile, "tempcombwisepuzzle.txt", "puz-18sepsize17D.txt"})
+    EXPECT_EQ(files.writePath(name), home.file("data") + "/" + name);
+  EXPECT_TRUE(std::filesystem::is_directory(home.file("data")));
+
+  // An empty user file counts as none; one with content is read first.
+  writeFile(config, "");
+  EXPECT_EQ(files.readPath(kConfigFile), program.folder() + kConfigFile);
+  writeFile(config, "mine\n");
+  EXPECT_EQ(files.readPath(kConfigFile), config);
+  EXPECT_EQ(files.readFolder(kConfigFile), home.file("cfg") + "/");
+  EXPECT_EQ(files.readPath("puzzles.txt"), program.folder() + "puzzles.txt");
+
+  // The error log follows the folder it is given.
+  ErrorLog(files.writeFolder(kErrorLogFile)).LogError(false, "1", "d", "m", "f");
+  EXPECT_TRUE(std::filesystem::exists(home.file("data/ErrorLog.txt")));
+  EXPECT_FALSE(std::filesystem::exists(program.file("ErrorLog.txt")));
+}
+
+TEST(ProgramFiles, TheDecisionComesFromWhetherTheFolderCanBeWritten) {
+  TempFolder program;
+  EXPECT_TRUE(isWritableFolder(program.folder()));
+  EXPECT_FALSE(isWritableFolder(program.file("missing")));
+  EXPECT_TRUE(ProgramFiles(program.file("missing"), {"/c", "/d"}).usesUserFolders());
+  if (::geteuid() != 0) {  // permissions do not stop root
+    std::filesystem::permissions(program.folder(), std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::remove);
+    EXPECT_FALSE(isWritableFolder(program.folder()));
+    EXPECT_TRUE(ProgramFiles(program.folder(), {"/c", "/d"}).usesUserFolders());
+    std::filesystem::permissions(program.folder(), std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::add);
+  }
+}
+
+TEST(ProgramFolder, AnInstalledExecutableFindsTheDataFolderOfItsInstallation) {
+  TempFolder prefix;
+  std::filesystem::create_directories(prefix.file("bin"));
+  std::filesystem::create_directories(prefix.file("share/combwise"));
+  const std::string bin = prefix.file("bin");
+  // No data anywhere: the executable's folder, as before.
+  EXPECT_EQ(dataFolderBeside(bin, "../share/combwise"), bin + "/");
+  writeFile(prefix.file("share/combwise/english3.txt"), "CAT\n");
+  EXPECT_EQ(dataFolderBeside(bin, "../share/combwise"), prefix.file("share/combwise") + "/");
+  // Data beside the executable (the build's bin) wins.
+  writeFile(prefix.file("bin/english3.txt"), "CAT\n");
+  EXPECT_EQ(dataFolderBeside(bin + "/", "../share/combwise"), bin + "/");
+}
+
+}  // namespace
+}  // namespace combwise
