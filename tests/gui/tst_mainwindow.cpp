@@ -11,6 +11,7 @@
 
 #include "core/play/entry.h"
 #include "gui/app/mainwindow.h"
+#include "gui/app/screenshot.h"
 #include "gui/play/boardpicture.h"
 #include "gui/ui/boxcontrol.h"
 #include "support/fakeprompter.h"
@@ -169,7 +170,7 @@ class TestMainWindow : public QObject {
     Game game;
     game.folder.writeConfig(tenPuzzles(game), 1);
     QVERIFY(game.start());
-    PuzzleState& puzzle = game.window->puzzle();
+    const PuzzleState& puzzle = game.window->puzzle();
     BoardPicture* picture = game.window->boardPicture();
     game.select(3, 6);
     QCOMPARE(game.status(), QString("Hex = 4"));
@@ -207,7 +208,6 @@ class TestMainWindow : public QObject {
     Game game;
     game.folder.writeConfig(tenPuzzles(game), 2);
     QVERIFY(game.start());
-    PuzzleState& puzzle = game.window->puzzle();
     BoxControl* verify = game.button("cmdverify");
     QTest::mousePress(verify, Qt::LeftButton);
     QCOMPARE(game.status(), QString("Not done yet"));
@@ -215,7 +215,7 @@ class TestMainWindow : public QObject {
     QTest::mouseRelease(verify, Qt::LeftButton);
     QVERIFY(game.window->boardPicture()->marks().empty());
 
-    revealHexagons(game.window->board(), puzzle, game.window->board().hexCount());
+    revealHexagons(*game.window, game.window->board().hexCount());
     QTest::mousePress(verify, Qt::LeftButton);
     QCOMPARE(game.status(), QString("All Done ..."));
     QCOMPARE(game.prompter.messages.last().prompt, QString("All done !"));
@@ -303,7 +303,8 @@ class TestMainWindow : public QObject {
     QVERIFY(game.start());
     game.files.paths.enqueue(game.folder.path("saved"));
     game.window->findChild<QAction*>("mnusave")->trigger();
-    QCOMPARE(game.prompter.notices.last(), "Puzzle appended to file:\n" + game.folder.path("saved.txt") + "\n 1 puzzles");
+    QCOMPARE(game.prompter.notices.last(),
+             "Puzzle appended to file:\n" + game.folder.path("saved.txt") + "\n 1 puzzles");
 
     QFile::remove(game.folder.path("combwise.cfg"));
     game.prompter.answers.enqueue(kMsgNo);
@@ -343,9 +344,10 @@ class TestMainWindow : public QObject {
         for (int dy = -1; dy <= 0; ++dy) value = qMin(value, qGray(image.pixel(x + dx, y + dy)));
       return value;
     };
-    for (const QPoint corner : {QPoint(74, 13), QPoint(59, 38), QPoint(74, 63), QPoint(104, 63), QPoint(119, 38),
-                                QPoint(104, 13)})
-      QVERIFY2(darkest(corner.x(), corner.y()) < 100, qPrintable(QString("corner %1,%2").arg(corner.x()).arg(corner.y())));
+    for (const QPoint corner :
+         {QPoint(74, 13), QPoint(59, 38), QPoint(74, 63), QPoint(104, 63), QPoint(119, 38), QPoint(104, 13)})
+      QVERIFY2(darkest(corner.x(), corner.y()) < 100,
+               qPrintable(QString("corner %1,%2").arg(corner.x()).arg(corner.y())));
     QCOMPARE(qGray(image.pixel(80, 30)), 255);  // inside, away from the lines: the fill
     QCOMPARE(qGray(image.pixel(50, 5)), 255);   // outside every hexagon
   }
