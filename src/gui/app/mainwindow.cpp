@@ -18,7 +18,7 @@
 #include <QVBoxLayout>
 #include <functional>
 
-#include "gui/app/clicklabel.h"
+#include "gui/ui/clicklabel.h"
 #include "gui/app/outputcommands.h"
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"

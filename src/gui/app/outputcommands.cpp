@@ -3,16 +3,13 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QLabel>
 #include <QMenu>
 #include <QPainter>
-#include <QVBoxLayout>
 
 #include "core/files/browsing.h"
 #include "core/files/puzzlefile.h"
 #include "core/files/textfile.h"
 #include "core/model/text.h"
-#include "gui/app/busypointer.h"
 #include "gui/app/mainwindow.h"
 #include "gui/output/pageimage.h"
 #include "gui/output/pdftarget.h"
@@ -20,6 +17,8 @@
 #include "gui/output/prntform.h"
 #include "gui/output/rangeprinter.h"
 #include "gui/play/boardpicture.h"
+#include "gui/ui/batchprogress.h"
+#include "gui/ui/busypointer.h"
 #include "gui/ui/prompter.h"
 
 namespace combwise {
@@ -28,29 +27,6 @@ namespace {
 QString text(const std::string& value) { return QString::fromStdString(value); }
 
 void letEventsRun() { QCoreApplication::processEvents(); }
-
-// The batch's small progress window: its caption and label show the
-// running count.
-class BatchProgress : public QWidget {
- public:
-  explicit BatchProgress(QWidget* parent) : QWidget(parent, Qt::Tool), m_count(new QLabel(this)) {
-    setObjectName("batchprogress");
-    m_count->setObjectName("lblbatchcount");
-    m_count->setMinimumWidth(180);
-    m_count->setAlignment(Qt::AlignCenter);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_count);
-    show(0);
-  }
-  void show(int count) {
-    const QString caption = text(Str(count));
-    setWindowTitle(caption);
-    m_count->setText("Puzzles made:" + caption);
-  }
-
- private:
-  QLabel* m_count;
-};
 
 }  // namespace
 

@@ -10,7 +10,7 @@
 #include <QListWidget>
 
 #include "core/model/text.h"
-#include "gui/app/clicklabel.h"
+#include "gui/ui/clicklabel.h"
 #include "gui/app/mainwindow.h"
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
