@@ -18,11 +18,11 @@
 #include <QVBoxLayout>
 #include <functional>
 
-#include "gui/ui/clicklabel.h"
 #include "gui/app/outputcommands.h"
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
 #include "gui/ui/boxcontrol.h"
+#include "gui/ui/clicklabel.h"
 #include "gui/ui/dialogservices.h"
 
 namespace combwise {

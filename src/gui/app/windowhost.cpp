@@ -10,11 +10,11 @@
 #include <QListWidget>
 
 #include "core/model/text.h"
-#include "gui/ui/clicklabel.h"
 #include "gui/app/mainwindow.h"
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
 #include "gui/ui/boxcontrol.h"
+#include "gui/ui/clicklabel.h"
 #include "gui/ui/prompter.h"
 
 namespace combwise {
