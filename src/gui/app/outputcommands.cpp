@@ -211,7 +211,7 @@ void OutputCommands::makeBatch() {
   std::unique_ptr<BatchProgress> progress;
   const CommandResult result = m_window.session().makeBatch([this, &progress](int made) {
     if (!progress) progress = std::make_unique<BatchProgress>(&m_window);
-    progress->show(made);
+    progress->showCount(made);
   });
   if (progress) progress->close();
   progress.reset();

@@ -19,9 +19,10 @@ class BatchProgress : public QWidget {
     m_count->setAlignment(Qt::AlignCenter);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_count);
-    show(0);
+    showCount(0);
+    show();
   }
-  void show(int count) {
+  void showCount(int count) {
     const QString caption = QString::fromStdString(Str(count));
     setWindowTitle(caption);
     m_count->setText("Puzzles made:" + caption);
