@@ -20,8 +20,8 @@ struct Context {
   std::ostream& err;
   bool progressOnTerminal = false;  // err is a terminal: draw progress bars
 
-  std::string dictionaryPath() const { return files.readPath("english3.txt"); }
-  std::string meaningsPath() const { return files.readPath("mean3456.txt"); }
+  std::string dictionaryPath() const { return files.readPath(kDefaultDictionaryFile); }
+  std::string meaningsPath() const { return files.readPath(kMeaningsFile); }
   std::string errorLogFolder() const { return files.writeFolder(kErrorLogFile); }
 };
 

@@ -1,6 +1,6 @@
 // The options window: the samples' clicks, colour labels taking the
 // picker's colour, scheme choice and its missing-scheme notice, and Apply
-// writing settings that survive the configuration file.
+// handing over a choice whose settings survive the configuration file.
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -112,6 +112,8 @@ class TestOptions : public QObject {
     QTest::mouseClick(child<BoxControl>(form, "cmdApply"), Qt::LeftButton);
 
     QCOMPARE(applied.count(), 1);
+    QCOMPARE(m_settings.OutlineWidth, 2);  // the game takes the choice, not the window
+    applyOptions(form.choice(), m_settings, m_scheme);
     QCOMPARE(m_settings.schemeName, std::string("night.col"));
     QCOMPARE(m_scheme.name, std::string("night.col"));
     QCOMPARE(m_scheme[2], rgb(32, 30, 36));

@@ -3,9 +3,17 @@
 // width and the board font size.
 #pragma once
 
+#include <array>
+#include <string>
+
+#include "core/files/colourscheme.h"
 #include "core/files/config.h"
 
 namespace combwise {
+
+inline constexpr const char* kDefaultBoardFontName = "Arial";
+inline constexpr int kDefaultBoardFontSize = 10;
+inline constexpr int kDefaultOutlineWidth = 2;
 
 inline constexpr int kMinOutlineWidth = 1;
 inline constexpr int kMaxOutlineWidth = 20;
@@ -17,6 +25,38 @@ inline constexpr int kMaxBoardFontSize = 32;
 // table (near-black outlines, red given letters, grey numbers and grid,
 // green entries, near-white hexagons). Paths and recent files are empty.
 Settings startupSettings();
+
+// How the board is drawn: the settings, with the start-up values standing in
+// for a font, size or width that the configuration left unset.
+struct BoardLook {
+  std::string fontName = kDefaultBoardFontName;
+  int fontSize = kDefaultBoardFontSize;
+  int outlineWidth = kDefaultOutlineWidth;
+  int outline = 0;
+  int fill = 0;
+  int numbers = 0;
+  int given = 0;
+  int entries = 0;
+};
+BoardLook boardLook(const Settings& settings);
+
+// The five board colours in the order the options window lists them.
+enum class BoardColour { Border, FixedLetters, Grid, User, HexFill };
+inline constexpr int kBoardColours = 5;
+
+// What the options window hands over on Apply.
+struct OptionsChoice {
+  ColourScheme scheme;  // the scheme chosen, already named
+  std::array<int, kBoardColours> colours{};
+  int outlineWidth = kDefaultOutlineWidth;
+  int fontSize = kDefaultBoardFontSize;
+  std::string fontName;
+};
+// The board colours of the settings, in the options window's order.
+std::array<int, kBoardColours> boardColours(const Settings& settings);
+// Takes the choice into the settings and the scheme, the scheme's button
+// colour settled first.
+void applyOptions(const OptionsChoice& choice, Settings& settings, ColourScheme& scheme);
 
 // Which mouse button clicked a sample.
 enum class SampleClick { Left, Right };

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "core/files/config.h"
+#include "core/files/programfiles.h"
 
 namespace combwise {
 
@@ -31,8 +32,6 @@ void addRecentFile(std::array<RecentFile, Settings::kRecentFiles>& entries, cons
 // `fileExists` tells whether a path names a file of non-zero length.
 std::optional<std::string> startupCollection(const std::string& configured,
                                              const std::function<bool(const std::string&)>& fileExists);
-
-inline constexpr const char* kReadymadeCollection = "puzzles.txt";
 
 // Whether a path names an existing file of non-zero length.
 bool nonEmptyFile(const std::string& path);

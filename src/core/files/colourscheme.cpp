@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/files/programfiles.h"
 #include "core/files/textfile.h"
 #include "core/model/text.h"
 
@@ -38,7 +39,7 @@ SchemeLoad loadScheme(const std::string& schemeFile, const std::string& name, Co
 
 }  // namespace
 
-std::string schemeFilePath(const std::string& programFolder) { return programFolder + "all.col"; }
+std::string schemeFilePath(const std::string& programFolder) { return programFolder + kSchemeFile; }
 
 std::optional<std::string> schemeListEntry(std::string_view line) {
   const auto at = line.find(kSchemeMark);

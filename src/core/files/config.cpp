@@ -4,6 +4,7 @@
 #include <charconv>
 #include <optional>
 
+#include "core/files/programfiles.h"
 #include "core/files/textfile.h"
 #include "core/model/text.h"
 
@@ -74,9 +75,9 @@ bool Settings::recentSeparatorShown() const {
   return false;
 }
 
-std::string configPath(const std::string& programFolder) { return programFolder + "combwise.cfg"; }
+std::string configPath(const std::string& programFolder) { return programFolder + kConfigFile; }
 
-std::string defaultDictionaryPath(const std::string& programFolder) { return programFolder + "english3.txt"; }
+std::string defaultDictionaryPath(const std::string& programFolder) { return programFolder + kDefaultDictionaryFile; }
 
 std::string formatNumberLine(const Settings& settings) {
   std::string line;

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/files/programfiles.h"
+
 namespace combwise {
 
 class ErrorLog {
@@ -36,7 +38,7 @@ class ErrorLog {
   std::string record(std::string_view number, std::string_view description, std::string_view moduleName,
                      std::string_view functionName) const;
 
-  std::string path() const { return m_folder + "ErrorLog.txt"; }
+  std::string path() const { return m_folder + kErrorLogFile; }
   std::string versionTitle() const;
 
   // The current local date and time as "#yyyy-mm-dd hh:mm:ss#".

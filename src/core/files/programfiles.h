@@ -13,8 +13,19 @@
 
 namespace combwise {
 
+// The names of the program's own files. The program folder (or, where it
+// cannot be written, the user's folders below) holds most of them; the
+// readymade collection and the temporary puzzle are looked for in the
+// working folder.
 inline constexpr const char* kConfigFile = "combwise.cfg";
+inline constexpr const char* kMeaningsFile = "mean3456.txt";
+inline constexpr const char* kDefaultDictionaryFile = "english3.txt";
+inline constexpr const char* kSchemeFile = "all.col";
 inline constexpr const char* kErrorLogFile = "ErrorLog.txt";
+inline constexpr const char* kHelpPage = "combwise.htm";
+inline constexpr const char* kReadymadeCollection = "puzzles.txt";
+inline constexpr const char* kTemporaryPuzzleFile = "tempcombwisepuzzle.txt";
+inline constexpr const char* kBatchFile = "puz-18sepsize17D.txt";
 
 // The user's own folders for the program, each ending with a separator.
 struct UserFolders {

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "core/files/programfiles.h"
+
 // Where an installation keeps the data, seen from the folder of the
 // executables; the build sets it from the install folders.
 #ifndef COMBWISE_DATA_FROM_BIN
@@ -16,7 +18,7 @@ namespace {
 
 bool holdsDictionary(const std::filesystem::path& folder) {
   std::error_code error;
-  return std::filesystem::is_regular_file(folder / "english3.txt", error);
+  return std::filesystem::is_regular_file(folder / kDefaultDictionaryFile, error);
 }
 
 }  // namespace

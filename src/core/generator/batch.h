@@ -11,11 +11,11 @@
 #include <string>
 
 #include "core/files/dictionary.h"
+#include "core/files/programfiles.h"
 #include "core/model/callbacks.h"
 
 namespace combwise {
 
-inline constexpr const char* kBatchFile = "puz-18sepsize17D.txt";
 inline constexpr int kBatchSize = 17;
 inline constexpr int kBatchCount = 2000;
 

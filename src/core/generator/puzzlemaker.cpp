@@ -51,8 +51,8 @@ PuzzleGenerator& PuzzleMaker::generator() {
 Status PuzzleMaker::runBatch(const std::string& programFolder, const LineRunOptions& options,
                              const std::function<void(int)>& progress, const StatusReport& status) {
   useSize(kBatchSize);
-  if (Status read = loadDictionary(programFolder + "english3.txt", status); !read.ok()) return read;
-  if (Status read = loadMeanings(programFolder + "mean3456.txt", status); !read.ok()) return read;
+  if (Status read = loadDictionary(programFolder + kDefaultDictionaryFile, status); !read.ok()) return read;
+  if (Status read = loadMeanings(programFolder + kMeaningsFile, status); !read.ok()) return read;
   LineRunOptions batch = options;
   batch.size = kBatchSize;
   return appendPuzzleLines(programFolder + kBatchFile, m_dictionary, m_meanings, batch, progress);

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "core/files/dictionary.h"
+#include "core/files/programfiles.h"
 #include "core/files/puzzlefile.h"
 #include "core/generator/batch.h"
 #include "core/generator/generator.h"
@@ -21,7 +22,6 @@
 
 namespace combwise {
 
-inline constexpr const char* kTemporaryPuzzleFile = "tempcombwisepuzzle.txt";
 inline constexpr const char* kLargePuzzleRefusal =
     "Creating a large puzzle with english1/2 dictionaries will take long time";
 

@@ -45,7 +45,7 @@ struct BoardLayout {
   std::array<int, 7> LetterDX{};  // ring positions 1..6
   std::array<int, 7> LetterDY{};
   std::array<PixelPoint, 7> HexTemplate{};  // P0..P5 drawn, P6 closes
-  int pictureWidth = 0;  // the board picture's size
+  int pictureWidth = 0;                     // the board picture's size
   int pictureHeight = 0;
   int markerSide = 0;  // the selection marker, a square
 
@@ -57,6 +57,10 @@ struct BoardLayout {
   static int clampRow(int r) { return r < 0 ? 0 : (r >= kRows ? kRows - 1 : r); }
   static int clampCol(int c) { return c < 0 ? 0 : (c >= kCols ? kCols - 1 : c); }
 };
+
+// Where the board picture stands inside its frame (twips from the frame's
+// top-left corner) once the board is fitted or the zoom reset.
+inline constexpr int kBoardPictureOffset = 64;
 
 // The origin of the screen board for a size: (100, 200), but size 7 at
 // (100, 400), size 10 at (600, 300) and size 17 at (100, 700).

@@ -3,26 +3,19 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QLabel>
 #include <QMenu>
 #include <QPainter>
-#include <QVBoxLayout>
 
 #include "core/files/browsing.h"
-#include "core/files/collectiontools.h"
-#include "core/files/dictionary.h"
-#include "core/files/errorlog.h"
 #include "core/files/puzzlefile.h"
 #include "core/files/textfile.h"
-#include "core/generator/batch.h"
-#include "core/generator/puzzlemaker.h"
-#include "core/model/random.h"
 #include "core/model/text.h"
-#include "gui/app/busypointer.h"
 #include "gui/app/mainwindow.h"
 #include "gui/output/printertarget.h"
 #include "gui/output/prntform.h"
 #include "gui/play/boardpicture.h"
+#include "gui/ui/batchprogress.h"
+#include "gui/ui/busypointer.h"
 #include "gui/ui/prompter.h"
 #include "render/pageimage.h"
 #include "render/pdftarget.h"
@@ -35,33 +28,10 @@ QString text(const std::string& value) { return QString::fromStdString(value); }
 
 void letEventsRun() { QCoreApplication::processEvents(); }
 
-// The batch's small progress window: its caption and label show the
-// running count.
-class BatchProgress : public QWidget {
- public:
-  explicit BatchProgress(QWidget* parent) : QWidget(parent, Qt::Tool), m_count(new QLabel(this)) {
-    setObjectName("batchprogress");
-    m_count->setObjectName("lblbatchcount");
-    m_count->setMinimumWidth(180);
-    m_count->setAlignment(Qt::AlignCenter);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_count);
-    show(0);
-  }
-  void show(int count) {
-    const QString caption = text(Str(count));
-    setWindowTitle(caption);
-    m_count->setText("Puzzles made:" + caption);
-  }
-
- private:
-  QLabel* m_count;
-};
-
 }  // namespace
 
 OutputCommands::OutputCommands(MainWindow& window, OutputServices services)
-    : QObject(&window), m_window(window), m_services(std::move(services)), m_batchCount(kBatchCount) {
+    : QObject(&window), m_window(window), m_services(std::move(services)) {
   setObjectName("outputcommands");
   addActions();
 }
@@ -69,6 +39,8 @@ OutputCommands::OutputCommands(MainWindow& window, OutputServices services)
 OutputCommands::~OutputCommands() = default;
 
 void OutputCommands::setServices(OutputServices services) { m_services = std::move(services); }
+
+void OutputCommands::setBatchCount(int count) { m_window.session().setBatchCount(count); }
 
 void OutputCommands::addActions() {
   if (QAction* print = m_window.fileMenu()->findChild<QAction*>("mnuprint"))
@@ -104,16 +76,14 @@ ClipboardSink& OutputCommands::clipboard() {
   return *m_ownClipboard;
 }
 
-bool OutputCommands::ready() const {
-  return !m_busy && m_window.createEnabled() && m_window.puzzle().PuzzleSize > 0;
-}
+bool OutputCommands::ready() const { return m_window.session().outputReady(); }
 
 PagePuzzle OutputCommands::currentPage() const {
-  const Settings& settings = m_window.settings();
+  const BoardLook board = m_window.session().look();
   PrintLook look;
-  look.fontName = text(settings.boardFontName.empty() ? "Arial" : settings.boardFontName);
-  look.fontSize = settings.BoardFontSize > 0 ? settings.BoardFontSize : 10;
-  look.outlineWidth = settings.OutlineWidth > 0 ? settings.OutlineWidth : 2;
+  look.fontName = text(board.fontName);
+  look.fontSize = board.fontSize;
+  look.outlineWidth = board.outlineWidth;
   look.screenCellWidth = m_window.layout().CellWidth;
   look.screenCellHeight = m_window.layout().CellHeight;
   look.banner = m_banner;
@@ -135,7 +105,7 @@ void OutputCommands::printCurrentPuzzle() {
 }
 
 void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last) {
-  PuzzleState& state = m_window.puzzle();
+  const PuzzleState& state = m_window.puzzle();
   const std::string path = state.CollectionPath;
   const int shownBefore = state.PuzzleNumber;
   const PageLoader load = [this, &path](int n) -> std::optional<PagePuzzle> {
@@ -157,10 +127,11 @@ void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last) 
 
 void OutputCommands::printFileCommand() {
   const PuzzleState& state = m_window.puzzle();
-  if (!ready() || state.PuzzleCount <= 0 || state.CollectionPath.empty()) return;
+  if (!m_window.session().printRangeReady()) return;
   PrintTarget& target = printer();
-  PrntForm form(target.printerName(), text(state.CollectionPath), state.PuzzleCount, m_window.prompter(),
-                [this, &target] { return target.choosePrinter(&m_window); }, &m_window);
+  PrntForm form(
+      target.printerName(), text(state.CollectionPath), state.PuzzleCount, m_window.prompter(),
+      [this, &target] { return target.choosePrinter(&m_window); }, &m_window);
   form.exec();
   const std::optional<PrintRange> range = form.chosenRange(state.PuzzleNumber);
   if (!range) return;
@@ -176,8 +147,7 @@ void OutputCommands::printToPdf(int first, int last) {
   if (chosen.trimmed().isEmpty()) return;
   const QString path = text(withDefaultExtension(chosen.toStdString(), kPdfExtension));
   if (nonEmptyFile(path.toStdString()) && !m_window.prompter().confirm("OverWrite file: " + path + " ?")) return;
-  std::unique_ptr<PrintTarget> file =
-      m_services.pdfFile ? m_services.pdfFile(path) : std::make_unique<PdfTarget>(path);
+  std::unique_ptr<PrintTarget> file = m_services.pdfFile ? m_services.pdfFile(path) : std::make_unique<PdfTarget>(path);
   printPuzzleRange(*file, first, last);
 }
 
@@ -193,15 +163,19 @@ void OutputCommands::printClues() {
 
 void OutputCommands::cluesToTextFile() {
   if (!ready()) return;
-  const QString chosen = m_window.fileChooser().chooseFile(
-      {"Select output file", "*.txt", m_banner.productName.empty() ? "Files" : text(m_banner.productName + " Files"),
-       text(m_window.programFolder()), "SAVE", {}});
+  const QString chosen =
+      m_window.fileChooser().chooseFile({"Select output file",
+                                         "*.txt",
+                                         m_banner.productName.empty() ? "Files" : text(m_banner.productName + " Files"),
+                                         text(m_window.programFolder()),
+                                         "SAVE",
+                                         {}});
   if (chosen.trimmed().isEmpty()) return;
   const std::string path = withDefaultExtension(chosen.toStdString());
   const PuzzleState& state = m_window.puzzle();
   // The listing replaces its file: never the collection it lists, nor the
   // meanings the clues come from.
-  if (outputIsAnInput(path, {state.CollectionPath, m_window.programFolder() + "mean3456.txt"})) {
+  if (outputIsAnInput(path, {state.CollectionPath, m_window.session().meaningsPath()})) {
     m_window.prompter().ShowMessage(text(path) + " is read by the game; choose another file", "vbok+vbcritical");
     return;
   }
@@ -229,53 +203,18 @@ void OutputCommands::copySolution() {
   clipboard().setImage(pageImage(currentPage(), LetterMode::Solution));
 }
 
-void OutputCommands::randomize() {
-  const std::string source = m_window.puzzle().CollectionPath;
-  if (m_busy || !m_window.createEnabled() || source.empty() || !randomizedPath(source)) return;
-  m_busy = true;
-  RandomSource random;
-  const RandomizeResult result = randomizeCollection(
-      source, random, [this](const std::string& progress) { m_window.setStatus(text(progress)); }, letEventsRun);
-  m_busy = false;
-  m_window.prompter().notify(text(result.message));
-}
+void OutputCommands::randomize() { m_window.paint(m_window.session().randomize()); }
 
 void OutputCommands::makeBatch() {
-  if (m_busy || !m_window.createEnabled()) return;
-  const std::string& folder = m_window.programFolder();
-  if (m_window.prompter().ShowMessage("Make " + text(NumberText(m_batchCount)) + " puzzles of size 17 into " +
-                                          text(folder + kBatchFile) + "?",
-                                      "vbquestion+vbyesno") != kMsgYes)
-    return;
-  // The batch works on a board and word data of its own, so the puzzle on
-  // the screen stays; afterwards its size and dictionary are the ones in use.
-  ErrorLog log(folder);
-  Board board;
-  PuzzleState state;
-  Dictionary dictionary(&log);
-  Meanings meanings(&log);
-  PuzzleMaker maker(board, state, dictionary, meanings);
-  BatchProgress progress(&m_window);
-  m_busy = true;
-  m_window.setCreateEnabled(false);
-  LineRunOptions options;
-  options.count = m_batchCount;
-  const Status made = maker.runBatch(
-      folder, options,
-      [&progress](int made) {
-        progress.show(made);
-        letEventsRun();
-      },
-      [this](const std::string& status) {
-        m_window.setStatus(text(status));
-        letEventsRun();
-      });
-  m_busy = false;
-  m_window.setCreateEnabled(true);
-  progress.close();
-  m_window.showSize(kBatchSize);
-  m_window.readDictionary(folder + "english3.txt");
-  m_window.prompter().notify(made.ok() ? QString("done") : text(made.error));
+  // The small window with the running count opens once the run starts.
+  std::unique_ptr<BatchProgress> progress;
+  const CommandResult result = m_window.session().makeBatch([this, &progress](int made) {
+    if (!progress) progress = std::make_unique<BatchProgress>(&m_window);
+    progress->showCount(made);
+  });
+  if (progress) progress->close();
+  progress.reset();
+  m_window.paint(result);
 }
 
 }  // namespace combwise

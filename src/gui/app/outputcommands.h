@@ -22,8 +22,8 @@ namespace combwise {
 class MainWindow;
 
 struct OutputServices {
-  PrintTarget* printer = nullptr;       // null: the system's default printer
-  ClipboardSink* clipboard = nullptr;   // null: the system clipboard
+  PrintTarget* printer = nullptr;      // null: the system's default printer
+  ClipboardSink* clipboard = nullptr;  // null: the system clipboard
   // Opens a PDF file as a printer; null: a PDF writer.
   std::function<std::unique_ptr<PrintTarget>(const QString& path)> pdfFile;
 };
@@ -41,7 +41,7 @@ class OutputCommands : public QObject {
   // the clue listing.
   ListingBanner& banner() { return m_banner; }
   // Puzzles a batch makes (2000).
-  void setBatchCount(int count) { m_batchCount = count; }
+  void setBatchCount(int count);
 
   // What a printed page of the current puzzle shows.
   PagePuzzle currentPage() const;
@@ -62,7 +62,7 @@ class OutputCommands : public QObject {
 
  private:
   void addActions();
-  bool ready() const;  // false while a puzzle is made or there is no puzzle
+  bool ready() const;  // false while the game is busy or there is no puzzle
   PrintTarget& printer();
   ClipboardSink& clipboard();
   void printToPdf(int first, int last);
@@ -72,8 +72,6 @@ class OutputCommands : public QObject {
   std::unique_ptr<PrintTarget> m_ownPrinter;
   std::unique_ptr<ClipboardSink> m_ownClipboard;
   ListingBanner m_banner;
-  int m_batchCount;
-  bool m_busy = false;  // a batch or randomize run is under way
 };
 
 }  // namespace combwise

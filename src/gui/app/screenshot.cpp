@@ -6,16 +6,11 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include "core/play/entry.h"
 #include "gui/app/mainwindow.h"
-#include "gui/play/boardpicture.h"
 
 namespace combwise {
 
-void revealHexagons(MainWindow& window, int count) {
-  revealHexagons(window.board(), window.puzzle(), count);
-  window.boardPicture()->DrawBoard(LetterMode::Play);
-}
+void revealHexagons(MainWindow& window, int count) { window.paint(window.session().revealHexagons(count)); }
 
 void scheduleScreenshot(MainWindow& window, const ScreenshotRequest& request) {
   auto* poll = new QTimer(&window);

@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <vector>
 
+#include "core/files/boardoptions.h"
 #include "core/model/board.h"
 #include "core/model/puzzlestate.h"
 #include "core/play/boardscene.h"
@@ -19,8 +20,8 @@ namespace combwise {
 
 struct BoardView {
   BoardColours colours;
-  QFont font = boardFont("Arial", 10);
-  int outlineWidth = 2;
+  QFont font = boardFont(kDefaultBoardFontName, kDefaultBoardFontSize);
+  int outlineWidth = kDefaultOutlineWidth;
   int shrinkPercent = 0;
   LetterMode letters = LetterMode::Play;
 };

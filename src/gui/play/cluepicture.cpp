@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include "core/files/boardoptions.h"
 #include "render/boardpainter.h"
 
 namespace combwise {
@@ -14,7 +15,7 @@ CluePicture::CluePicture(const PuzzleState& state, QWidget* viewport) : QWidget(
   setProperty("schemeRole", "picture");
   setAutoFillBackground(true);
   setCursor(Qt::OpenHandCursor);
-  m_font = boardFont("Arial", 7);
+  m_font = boardFont(kDefaultBoardFontName, kDefaultBoardFontSize * 0.7);
 }
 
 void CluePicture::setClueFont(const QFont& font) {

@@ -74,7 +74,8 @@ QPixmap borderPicture(int width, const QColor& border, const QColor& fill, const
 
 }  // namespace
 
-Form2::Form2(Settings& settings, ColourScheme& scheme, QString programFolder, Prompter& prompter, QWidget* parent)
+Form2::Form2(const Settings& settings, const ColourScheme& scheme, QString programFolder, Prompter& prompter,
+             QWidget* parent)
     : QDialog(parent),
       m_settings(settings),
       m_scheme(scheme),
@@ -199,12 +200,8 @@ void Form2::buildControls() {
 void Form2::loadFromWindow() {
   m_pending = m_scheme;
   m_cmbScheme->setCurrentIndex(m_cmbScheme->findText(listName(m_scheme.name)));
-  const std::array<int, kBoardColours> colours{m_settings.OutlineColour, m_settings.GivenLetterColour,
-                                               m_settings.HexNumberColour, m_settings.EntryColour,
-                                               m_settings.HexFillColour};
-  for (int i = 0; i < kBoardColours; ++i) {
-    setLabelColour(m_colourLabels[static_cast<std::size_t>(i)], toQColor(colours[static_cast<std::size_t>(i)]));
-  }
+  m_colours = boardColours(m_settings);
+  for (int i = 0; i < kBoardColours; ++i) showColour(static_cast<BoardColour>(i));
   m_borderWidth = m_settings.OutlineWidth;
   m_fontSize = m_settings.BoardFontSize;
   m_fontName = QString::fromStdString(m_settings.boardFontName);
@@ -217,8 +214,18 @@ void Form2::loadFromWindow() {
   showFont();
 }
 
-QColor Form2::boardColour(BoardColour which) const {
-  return m_colourLabels[static_cast<std::size_t>(which)]->palette().color(QPalette::Window);
+QColor Form2::boardColour(BoardColour which) const { return toQColor(m_colours[static_cast<std::size_t>(which)]); }
+
+OptionsChoice Form2::choice() const {
+  OptionsChoice choice;
+  choice.scheme = m_pending;
+  const QString schemeText = m_cmbScheme->currentText();
+  if (!schemeText.isEmpty()) choice.scheme.name = (schemeText + ".col").toStdString();
+  choice.colours = m_colours;
+  choice.outlineWidth = m_borderWidth;
+  choice.fontSize = m_fontSize;
+  choice.fontName = m_fontName.toStdString();
+  return choice;
 }
 
 void Form2::chooseScheme(const QString& name) {
@@ -237,7 +244,8 @@ void Form2::chooseScheme(const QString& name) {
 }
 
 void Form2::clickColourLabel(BoardColour which) {
-  setLabelColour(m_colourLabels[static_cast<std::size_t>(which)], m_picker->BackColor());
+  m_colours[static_cast<std::size_t>(which)] = toSchemeColour(m_picker->BackColor());
+  showColour(which);
   if (which == kBorder || which == kHexFill) showBorder();
 }
 
@@ -258,21 +266,9 @@ void Form2::chooseFont(const QString& family) {
 }
 
 void Form2::apply() {
-  const QString schemeText = m_cmbScheme->currentText();
-  if (!schemeText.isEmpty()) m_pending.name = (schemeText + ".col").toStdString();
-  prepareSchemePaint(m_pending);
-  m_scheme = m_pending;
-  m_settings.schemeName = m_scheme.name;
-  m_settings.schemeColour13 = m_scheme[ColourScheme::kButtonOverride];
-  m_settings.OutlineColour = toSchemeColour(boardColour(kBorder));
-  m_settings.GivenLetterColour = toSchemeColour(boardColour(kFixedLetters));
-  m_settings.HexNumberColour = toSchemeColour(boardColour(kGrid));
-  m_settings.EntryColour = toSchemeColour(boardColour(kUser));
-  m_settings.HexFillColour = toSchemeColour(boardColour(kHexFill));
-  m_settings.OutlineWidth = m_borderWidth;
-  m_settings.BoardFontSize = m_fontSize;
-  m_settings.boardFontName = m_fontName.toStdString();
-  applyScheme(this, m_scheme);
+  ColourScheme painted = choice().scheme;
+  prepareSchemePaint(painted);
+  applyScheme(this, painted);
   emit applied();
 }
 
@@ -317,9 +313,10 @@ void Form2::showFont() {
   m_lblFontName->setText(QString("%1, %2 pt").arg(m_fontName).arg(m_fontSize));
 }
 
-void Form2::setLabelColour(QLabel* label, const QColor& colour) {
+void Form2::showColour(BoardColour which) {
+  QLabel* label = m_colourLabels[static_cast<std::size_t>(which)];
   QPalette palette = label->palette();
-  palette.setColor(QPalette::Window, colour);
+  palette.setColor(QPalette::Window, boardColour(which));
   label->setPalette(palette);
 }
 

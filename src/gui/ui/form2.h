@@ -1,14 +1,15 @@
 // Form2, "Combwise Options": the colour scheme, the five board colours
 // (chosen on the picker, then given to a colour label by a click), the
-// hexagon border width, and the board font and size. The window's settings
-// and scheme change only on Apply, which then emits applied() for the
-// window to repaint and keep the values.
+// hexagon border width, and the board font and size. It shows the game's
+// settings and scheme and keeps its own choice until Apply, which emits
+// applied() for the window to take choice() into the game and repaint.
 #pragma once
 
 #include <QDialog>
 #include <QString>
 #include <array>
 
+#include "core/files/boardoptions.h"
 #include "core/files/colourscheme.h"
 #include "core/files/config.h"
 
@@ -31,10 +32,13 @@ class Form2 : public QDialog {
 
   // programFolder ends with a separator; the options' missing-scheme notice
   // goes to the prompter's plain box.
-  Form2(Settings& settings, ColourScheme& scheme, QString programFolder, Prompter& prompter, QWidget* parent = nullptr);
+  Form2(const Settings& settings, const ColourScheme& scheme, QString programFolder, Prompter& prompter,
+        QWidget* parent = nullptr);
 
-  // Shows the window's current values (as on every activation).
+  // Shows the game's current values (as on every activation).
   void loadFromWindow();
+  // What Apply hands over: the scheme chosen and the board options.
+  OptionsChoice choice() const;
 
   ColPik* picker() const { return m_picker; }
   QColor boardColour(BoardColour which) const;
@@ -51,7 +55,7 @@ class Form2 : public QDialog {
   void apply();
 
  signals:
-  // Apply wrote the settings and the scheme: repaint and keep them.
+  // Apply was clicked: choice() holds what to keep.
   void applied();
 
  protected:
@@ -62,16 +66,17 @@ class Form2 : public QDialog {
   void buildControls();
   void showBorder();
   void showFont();
-  void setLabelColour(QLabel* label, const QColor& colour);
+  void showColour(BoardColour which);
 
-  Settings& m_settings;
-  ColourScheme& m_scheme;
+  const Settings& m_settings;
+  const ColourScheme& m_scheme;
   ColourScheme m_pending;  // the scheme chosen here, kept until Apply
   QString m_programFolder;
   Prompter& m_prompter;
 
-  int m_borderWidth = 2;
-  int m_fontSize = 10;
+  std::array<int, kBoardColours> m_colours{};  // in the order of BoardColour
+  int m_borderWidth = kDefaultOutlineWidth;
+  int m_fontSize = kDefaultBoardFontSize;
   QString m_fontName;
 
   QComboBox* m_cmbScheme = nullptr;

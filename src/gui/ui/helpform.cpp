@@ -8,15 +8,13 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-namespace combwise {
+#include "core/files/programfiles.h"
 
-namespace {
-const QString kPageName = QStringLiteral("combwise.htm");
-}
+namespace combwise {
 
 Form4::Form4(const QString& programFolder, QWidget* parent)
     : QWidget(parent, Qt::Window),
-      m_pagePath(QDir(programFolder).absoluteFilePath(kPageName)),
+      m_pagePath(QDir(programFolder).absoluteFilePath(QString::fromLatin1(kHelpPage))),
       m_browser(new QTextBrowser(this)) {
   setObjectName("Form4");
   setWindowTitle("Combwise Help");

@@ -28,5 +28,35 @@ TEST(BoardOptions, SampleClicksStepWithinTheirLimits) {
   EXPECT_EQ(nextBoardFontSize(0, SampleClick::Left), 8);
 }
 
+// A configuration that leaves the font, size or width unset (zero, empty)
+// draws with the start-up values; an options choice lands in the right
+// settings, the scheme's button colour settled.
+TEST(BoardOptions, TheLookFallsBackToTheStartupValuesAndAChoiceLandsInItsSettings) {
+  Settings unset;
+  unset.EntryColour = rgb(1, 2, 3);
+  const BoardLook look = boardLook(unset);
+  EXPECT_EQ(look.fontName, "Arial");
+  EXPECT_EQ(look.fontSize, 10);
+  EXPECT_EQ(look.outlineWidth, 2);
+  EXPECT_EQ(look.entries, rgb(1, 2, 3));
+
+  OptionsChoice choice;
+  choice.scheme.name = "night.col";
+  choice.colours = {11, 22, 33, 44, 55};
+  choice.outlineWidth = 7;
+  choice.fontSize = 14;
+  choice.fontName = "Courier New";
+  Settings settings = startupSettings();
+  ColourScheme scheme;
+  applyOptions(choice, settings, scheme);
+  EXPECT_EQ(boardColours(settings), choice.colours);
+  EXPECT_EQ(settings.OutlineColour, 11);
+  EXPECT_EQ(settings.HexFillColour, 55);
+  EXPECT_EQ(settings.schemeName, "night.col");
+  EXPECT_EQ(scheme[ColourScheme::kButtonOverride], scheme[ColourScheme::kButtons]);
+  EXPECT_EQ(settings.schemeColour13, scheme[ColourScheme::kButtonOverride]);
+  EXPECT_EQ(boardLook(settings).fontName, "Courier New");
+}
+
 }  // namespace
 }  // namespace combwise

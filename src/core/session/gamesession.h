@@ -1,0 +1,171 @@
+// The game session: everything one game window plays with, and its
+// commands. It owns the board, the puzzle (with the player's letters,
+// selection and undo list), the screen layout and zoom, the settings and
+// colour scheme, the word data and meanings, the puzzle maker, the busy
+// state and the size of the next created puzzle. Each command checks its
+// guards, changes the state and returns what the window shows: status,
+// messages, what to redraw. Questions, file choices and event pumping go
+// through the SessionHost the window implements.
+//
+// The commands live in files by responsibility: start-up, settings and
+// reading puzzles (gamesession.cpp), collections (collectioncommands.cpp),
+// play on the board (playcommands.cpp), making puzzles and the collection
+// tools (makecommands.cpp).
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/files/boardoptions.h"
+#include "core/files/colourscheme.h"
+#include "core/files/config.h"
+#include "core/files/dictionary.h"
+#include "core/files/errorlog.h"
+#include "core/files/puzzlefile.h"
+#include "core/generator/puzzlemaker.h"
+#include "core/model/board.h"
+#include "core/model/puzzlestate.h"
+#include "core/model/random.h"
+#include "core/play/boardscene.h"
+#include "core/play/layout.h"
+#include "core/session/commandresult.h"
+#include "core/session/sessionhost.h"
+
+namespace combwise {
+
+// What keeps the session from taking commands. While it reads the
+// dictionary, starts up, creates a puzzle or makes a batch, the create
+// command is off and the file and play commands do nothing; a randomize
+// run only holds back the output commands.
+enum class Busy { None, ReadingDictionary, StartingUp, Creating, Batch, Randomizing };
+
+class GameSession {
+ public:
+  // The program folder ends with a separator. The host must outlive the session.
+  GameSession(std::string programFolder, SessionHost& host);
+  ~GameSession();
+  GameSession(const GameSession&) = delete;
+  GameSession& operator=(const GameSession&) = delete;
+
+  // --- Start-up (gamesession.cpp) ---
+  // The start-up settings, the configuration file, the colour scheme and
+  // the empty layout; the window then runs startStep() once.
+  CommandResult startUp();
+  // Opens this collection at puzzle n instead of the configured one.
+  void setStartCollection(const std::string& path, int n);
+  // Reads the dictionary and opens the last collection (or the readymade
+  // one) at its puzzle.
+  CommandResult startStep();
+  bool startedUp() const { return m_startedUp; }
+
+  // --- Collections (collectioncommands.cpp) ---
+  CommandResult loadCollection();
+  CommandResult savePuzzle();
+  // Arrow k (0 previous, 1 random, 2 next) released with a mouse button (2 = right).
+  CommandResult arrow(int index, int mouseButton);
+  CommandResult openRecent(int index);
+  CommandResult saveOptions();
+  CommandResult exit();
+
+  // --- Play (playcommands.cpp) ---
+  // The pointer rests at (x, y) twips on the board picture.
+  CommandResult hover(double x, double y);
+  // A character typed on the board.
+  CommandResult type(int code);
+  // A navigation key (35..40 as the platform numbers them) released.
+  CommandResult navigate(int keyCode);
+  CommandResult undo(int mouseButton);
+  CommandResult reset();
+  CommandResult verifyPressed();
+  CommandResult verifyReleased();
+  CommandResult showSolutionPressed();
+  CommandResult showSolutionReleased();
+  // 0 zoom out, 1 zoom in, 2 reset zoom.
+  CommandResult zoom(int index);
+  // The first `count` hexagons filled in as a player would have.
+  CommandResult revealHexagons(int count);
+
+  // --- Making puzzles and the collection tools (makecommands.cpp) ---
+  // The size label's click: the next size of 7, 10, 17, 22.
+  CommandResult nextSize();
+  CommandResult create();
+  // Asks a running creation to stop.
+  CommandResult cancelCreation();
+  CommandResult chooseDictionary();
+  CommandResult readDictionary(const std::string& path);
+  CommandResult randomize();
+  // Makes the batch; `progress` hears 0 when the run starts and then each
+  // appended puzzle's number.
+  CommandResult makeBatch(const std::function<void(int made)>& progress);
+  void setBatchCount(int count) { m_batchCount = count; }
+  int batchCount() const { return m_batchCount; }
+
+  // --- Options and output ---
+  CommandResult applyOptions(const OptionsChoice& choice);
+  // Whether the output commands may run: idle, with a puzzle shown.
+  bool outputReady() const;
+  // Whether the print range window may open: output ready and a collection open.
+  bool printRangeReady() const;
+  // Reads puzzle n of `path` and shows it; false when it cannot be read.
+  bool showPuzzle(const std::string& path, int n, CommandResult& result);
+
+  // --- What the window shows ---
+  const std::string& programFolder() const { return m_programFolder; }
+  std::string meaningsPath() const;
+  const Board& board() const { return m_board; }
+  const PuzzleState& puzzle() const { return m_puzzle; }
+  const BoardLayout& layout() const { return m_layout; }
+  const Settings& settings() const { return m_settings; }
+  const ColourScheme& scheme() const { return m_scheme; }
+  BoardLook look() const { return boardLook(m_settings); }
+  // The board's letter size on screen, which zoom changes.
+  double fontSize() const { return m_fontSize; }
+  const std::vector<SceneLine>& marks() const { return m_marks; }
+  // Whether a puzzle has been shown (the solution word lists hold it).
+  bool hasPuzzle() const { return m_hasPuzzle; }
+  int sizeToCreate() const { return m_sizeToCreate; }
+  Busy busy() const { return m_busy; }
+  bool createEnabled() const { return m_busy == Busy::None || m_busy == Busy::Randomizing; }
+  bool creating() const { return m_busy == Busy::Creating; }
+
+ private:
+  class BusyScope;
+  class PointerScope;
+
+  ClueSource clueSource();
+  // After a puzzle was read or made: fitted when needed, then shown.
+  void puzzleShown(const PuzzleReadResult& read, CommandResult& result);
+  void fitBoard(CommandResult& result);
+  void relayout(int cellWidth, int cellHeight);
+  // Reads puzzle 1 of a newly chosen collection of `count` puzzles.
+  void openCollection(const std::string& path, int count, CommandResult& result);
+  void rememberRecent(const std::string& path, CommandResult& result);
+  void setBusy(Busy busy);
+
+  std::string m_programFolder;
+  SessionHost& m_host;
+  Board m_board;
+  PuzzleState m_puzzle;
+  BoardLayout m_layout;
+  Settings m_settings;
+  ColourScheme m_scheme;
+  ErrorLog m_errorLog;
+  Dictionary m_dictionary;
+  Meanings m_meanings;
+  PuzzleMaker m_maker;
+  RandomSource m_random;
+  std::vector<SceneLine> m_marks;
+  int m_fitWidth = 225;
+  int m_fitHeight = 375;
+  int m_laidOutSize = -1;  // the size the layout was fitted for
+  double m_fontSize = kDefaultBoardFontSize;
+  int m_sizeToCreate = 7;
+  int m_batchCount = kBatchCount;
+  Busy m_busy = Busy::None;
+  bool m_hasPuzzle = false;
+  bool m_startedUp = false;
+  bool m_cancelRequested = false;
+};
+
+}  // namespace combwise
