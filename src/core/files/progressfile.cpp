@@ -207,7 +207,6 @@ class ProgressReader {
 
   void line(std::string_view text) {
     ++m_number;
-    if (!text.empty() && text.back() == '\r') text.remove_suffix(1);
     if (m_number == 1 && text == kProgressHeader) return;
     const auto problem = m_store.addLine(text);
     if (!problem) return;
@@ -234,7 +233,9 @@ ProgressStore ProgressStore::parse(std::string_view text, const std::string& fil
   ProgressReader reader(store, fileName, problems);
   while (!text.empty()) {
     const std::size_t end = text.find('\n');
-    reader.line(text.substr(0, end));
+    std::string_view line = text.substr(0, end);
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    reader.line(line);
     text = end == std::string_view::npos ? std::string_view{} : text.substr(end + 1);
   }
   return store;
