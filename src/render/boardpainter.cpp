@@ -22,6 +22,8 @@ QColor BoardColours::of(ColourRole role) const {
       return given;
     case ColourRole::Entry:
       return entries;
+    case ColourRole::Highlight:
+      return highlight;
   }
   return Qt::black;
 }
@@ -82,6 +84,15 @@ void paintBoardScene(QPainter& painter, const BoardScene& scene, const BoardColo
     painter.setPen(penFor(colours.outline, outline.penWidth * penScale));
     painter.drawPolygon(polygon);
   }
+  if (scene.highlight) {
+    QPolygonF polygon;
+    for (const auto& point : scene.highlight->points) polygon << QPointF(point.x, point.y);
+    QColor tint = colours.highlight;
+    tint.setAlphaF(static_cast<float>(kHighlightOpacity));
+    painter.setBrush(tint);
+    painter.setPen(penFor(colours.outline, scene.highlight->penWidth * penScale));
+    painter.drawPolygon(polygon);
+  }
   painter.setBrush(Qt::NoBrush);
   paintLines(painter, scene.lines, colours, twips, penScale);
   for (const auto& circle : scene.circles) {
@@ -89,9 +100,11 @@ void paintBoardScene(QPainter& painter, const BoardScene& scene, const BoardColo
     painter.drawEllipse(QPointF(circle.cx / twips.perPixelX, circle.cy / twips.perPixelY),
                         circle.radius / twips.perPixelX, circle.radius / twips.perPixelX);
   }
-  painter.setFont(font);
+  QFont bold = font;
+  bold.setBold(true);
   const QFontMetricsF metrics(font, painter.device());
   for (const auto& text : scene.texts) {
+    painter.setFont(text.bold ? bold : font);
     painter.setPen(colours.of(text.colour));
     painter.drawText(QPointF(text.x / twips.perPixelX, text.y / twips.perPixelY + metrics.ascent()),
                      QString::fromStdString(text.text));

@@ -28,6 +28,7 @@ struct BoardColours {
   QColor numbers = Qt::white;
   QColor given = QColor(255, 0, 0);
   QColor entries = QColor(0, 0, 160);
+  QColor highlight = QColor(255, 222, 128);  // laid over at kHighlightOpacity
 
   QColor of(ColourRole role) const;
 };

@@ -17,7 +17,7 @@ Settings startupSettings() {
   settings.HexFillColour = rgb(250, 250, 250);
   settings.GivenLetterColour = rgb(200, 10, 10);
   settings.EntryColour = rgb(10, 100, 10);
-  settings.HexNumberColour = rgb(184, 184, 184);
+  settings.HexNumberColour = rgb(128, 128, 128);
   return settings;
 }
 

@@ -23,7 +23,7 @@ inline constexpr int kMaxBoardFontSize = 32;
 // The settings as start-up sets them: scheme "xp.col", board font "Arial"
 // at 10 points, outline width 2, and the board colours of the start-up
 // table (near-black outlines, red given letters, grey numbers and grid,
-// green entries, near-white hexagons). Paths and recent files are empty.
+// green entries, near-white hexagons), each readable on the hexagons. Paths and recent files are empty.
 Settings startupSettings();
 
 // How the board is drawn: the settings, with the start-up values standing in

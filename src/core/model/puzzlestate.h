@@ -6,11 +6,11 @@
 #pragma once
 
 #include <array>
-#include <deque>
 #include <string>
 #include <vector>
 
 #include "core/model/board.h"
+#include "core/model/undohistory.h"
 
 namespace combwise {
 
@@ -54,11 +54,12 @@ struct PuzzleState {
   LetterGrid Entries;  // the player's letters; never cleared by the program
   int SelRow = 0;      // 0: no selection
   int SelCol = 0;
-  std::deque<std::string> UndoList;  // newest record first
+  UndoHistory UndoList;  // newest record first, with the steps to redo
 
   // Empties word slots 1..50 with their meaning numbers and clue texts.
   void clearSlots();
-  // Forgets the selection and the undo list, as reading a puzzle does.
+  // Forgets the selection and the undo and redo lists, as reading a puzzle
+  // does.
   void resetPlay();
 };
 

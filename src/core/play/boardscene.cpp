@@ -48,6 +48,11 @@ BoardScene buildBoardScene(const Board& board, const PuzzleState& state, const B
   BoardScene scene;
   const int hexCount = board.hexCount();
   for (int n = 1; n <= hexCount; ++n) addHexagon(scene, layout, board.HexRow(n), board.HexCol(n), options);
+  const double factor = 1.0 - options.shrinkPercent * 0.01;
+  if (options.highlightHex >= 1 && options.highlightHex <= hexCount && std::isfinite(factor)) {
+    scene.highlight = hexagonOutline(layout, board.HexRow(options.highlightHex), board.HexCol(options.highlightHex),
+                                     factor, options.outlineWidth);
+  }
 
   for (int n = 1; n <= hexCount; ++n) {
     const int R = board.HexRow(n);
@@ -58,11 +63,14 @@ BoardScene buildBoardScene(const Board& board, const PuzzleState& state, const B
       const int cell = board.InsideCells(n, k);
       const int r = board.CellRow(cell);
       const int c = board.CellCol(cell);
-      SceneText letter{static_cast<double>(X + layout.LetterDX[k]), static_cast<double>(Y + layout.LetterDY[k]), {},
+      SceneText letter{static_cast<double>(X + layout.LetterDX[k]),
+                       static_cast<double>(Y + layout.LetterDY[k]),
+                       {},
                        ColourRole::GivenLetter};
       const bool given = board.FreeCell(r, c) == 1;
       if (options.letters == LetterMode::Solution || given) {
         letter.text = state.Letters.at(r, c);
+        letter.bold = true;
       } else if (options.letters == LetterMode::Play && !state.Entries.at(r, c).empty()) {
         letter.text = state.Entries.at(r, c);
         letter.colour = ColourRole::Entry;
@@ -79,8 +87,8 @@ BoardScene buildBoardScene(const Board& board, const PuzzleState& state, const B
     scene.circles.push_back({cx, cy, height / 1.75});
     scene.texts.push_back(
         {static_cast<double>(roundHalfEven(layout.cellX(R + 1, C + 1) + (layout.CellWidth - width) / 2.0)),
-         static_cast<double>(roundHalfEven(layout.cellY(R, C + 1) + (2.0 * layout.CellHeight - height) / 2.0)),
-         number, ColourRole::HexNumber});
+         static_cast<double>(roundHalfEven(layout.cellY(R, C + 1) + (2.0 * layout.CellHeight - height) / 2.0)), number,
+         ColourRole::HexNumber});
   }
   return scene;
 }

@@ -1,11 +1,13 @@
 // The board picture as a list of things to draw: the hexagon outlines (in
-// device pixels), the inner cell lines, the letters, and the hexagon numbers
-// in their circles (all in twips). One scene serves the screen, the printed
+// device pixels), an optional highlighted hexagon over them, the inner cell
+// lines, the letters, and the hexagon numbers in their circles (all in
+// twips). One scene serves the screen, the printed
 // page and the clipboard picture; the painter only maps the colour roles to
 // colours and converts twips at the surface.
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,7 +18,11 @@
 
 namespace combwise {
 
-enum class ColourRole { Outline, HexFill, HexNumber, GivenLetter, Entry };
+enum class ColourRole { Outline, HexFill, HexNumber, GivenLetter, Entry, Highlight };
+
+// The highlight is laid over the hexagon's fill at this opacity, under its
+// lines and letters, so that everything on it stays readable.
+inline constexpr double kHighlightOpacity = 0.45;
 
 // Which letters a board shows.
 enum class LetterMode {
@@ -45,10 +51,14 @@ struct SceneText {
   double x = 0, y = 0;  // twips, the top-left of the text
   std::string text;
   ColourRole colour = ColourRole::GivenLetter;
+  // Given letters (and the solution) are drawn bold, so that they differ
+  // from the player's letters by more than their colour.
+  bool bold = false;
 };
 
 struct BoardScene {
   std::vector<ScenePolygon> outlines;
+  std::optional<ScenePolygon> highlight;  // filled in ColourRole::Highlight
   std::vector<SceneLine> lines;
   std::vector<SceneCircle> circles;
   std::vector<SceneText> texts;
@@ -59,6 +69,7 @@ struct SceneOptions {
   int outlineWidth = 2;
   int shrinkPercent = 0;  // hexagon outlines scaled by 1 - percent/100
   bool numbers = true;    // the hexagon numbers in their circles
+  int highlightHex = 0;   // the hexagon to highlight; 0 for none
 };
 
 // The whole board. `measure` is the surface's current board font.

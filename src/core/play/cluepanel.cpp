@@ -1,6 +1,7 @@
 // Lays out the clue panel.
 #include "core/play/cluepanel.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/files/cluelisting.h"
@@ -27,7 +28,8 @@ CluePanel layOutClues(const PuzzleState& state, const TextMeasure& measure, doub
       for (const auto& line : wrapped) print(kClueColumn, line);
       // A clue without text still keeps its numbered line.
       if (wrapped.empty()) y = numberBottom;
-      y = std::round(y) + 48;
+      panel.clues.push_back({s, top, std::max(y, numberBottom)});
+      y = std::round(y) + kClueGap;
     }
   };
   print(kClueMargin, "--");
@@ -40,6 +42,22 @@ CluePanel layOutClues(const PuzzleState& state, const TextMeasure& measure, doub
   print(kClueMargin, "--");
   panel.height = last + 400;
   return panel;
+}
+
+HexagonClues cluesOfHexagon(const CluePanel& panel, int hex) {
+  HexagonClues found;
+  for (const auto& clue : panel.clues) {
+    if (clue.slot == 2 * hex) found.inside = clue;
+    if (clue.slot == 2 * hex - 1) found.outside = clue;
+  }
+  return found;
+}
+
+std::optional<ClueHit> clueAt(const CluePanel& panel, double y) {
+  for (const auto& clue : panel.clues) {
+    if (y >= clue.top && y < clue.bottom + kClueGap) return ClueHit{clue.slot, (clue.slot + 1) / 2, clue.slot % 2 == 0};
+  }
+  return std::nullopt;
 }
 
 }  // namespace combwise

@@ -2,7 +2,6 @@
 #include "core/play/entry.h"
 
 #include <cctype>
-#include <vector>
 
 #include "core/model/text.h"
 
@@ -117,26 +116,6 @@ void revealHexagons(const Board& board, PuzzleState& state, int count) {
       if (board.FreeCell(r, c) == 0) state.Entries.at(r, c) = state.Letters.at(r, c);
     }
   }
-}
-
-bool undoLast(PuzzleState& state) {
-  if (state.UndoList.empty()) return false;
-  const std::string record = state.UndoList.front();
-  std::vector<std::string> parts;
-  std::size_t start = 0;
-  for (int i = 0; i < 2; ++i) {
-    const std::size_t comma = record.find(',', start);
-    if (comma == std::string::npos) break;
-    parts.push_back(record.substr(start, comma - start));
-    start = comma + 1;
-  }
-  state.UndoList.pop_front();
-  if (parts.size() < 2) return true;  // a record this program never writes
-  const auto row = static_cast<int>(leadingWhole(parts[0]));
-  const auto col = static_cast<int>(leadingWhole(parts[1]));
-  if (row < 0 || row > Board::kMaxRow || col < 0 || col > Board::kMaxCol) return true;
-  state.Entries.at(row, col) = record.substr(start);
-  return true;
 }
 
 }  // namespace combwise

@@ -8,6 +8,7 @@
 
 #include "core/model/board.h"
 #include "core/model/puzzlestate.h"
+#include "core/play/history.h"
 #include "core/play/layout.h"
 
 namespace combwise {
@@ -61,9 +62,5 @@ void RecordUndo(PuzzleState& state, int row, int col);
 // Puts the solution letters of the first `count` hexagons on their
 // non-free cells as entries, as a player who had solved them would have.
 void revealHexagons(const Board& board, PuzzleState& state, int count);
-
-// Takes back the newest change: the cell gets its old entry and the record
-// goes. False when there is nothing to undo.
-bool undoLast(PuzzleState& state);
 
 }  // namespace combwise

@@ -9,8 +9,38 @@
 
 namespace combwise {
 
+namespace {
+
+// Shape1: a frame in the entry colour over a faint wash of it, so that the
+// letter under it stays readable (a filled square would hide it).
+class SelectionMarker : public QWidget {
+ public:
+  explicit SelectionMarker(QWidget* parent) : QWidget(parent) {}
+  void setColour(const QColor& colour) {
+    m_colour = colour;
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    QColor wash = m_colour;
+    wash.setAlphaF(0.15f);
+    const qreal pen = qMax<qreal>(1.0, qMin(width(), height()) / 10.0);
+    painter.fillRect(rect(), wash);
+    painter.setPen(QPen(m_colour, pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(rect()).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2));
+  }
+
+ private:
+  QColor m_colour = Qt::blue;
+};
+
+}  // namespace
+
 BoardPicture::BoardPicture(const Board& board, const PuzzleState& state, const BoardLayout& layout, QWidget* parent)
-    : QWidget(parent), m_board(board), m_state(state), m_layout(layout), m_marker(new QWidget(this)) {
+    : QWidget(parent), m_board(board), m_state(state), m_layout(layout), m_marker(new SelectionMarker(this)) {
   setObjectName("Picture1");
   setProperty("schemeRole", "picture");
   setMouseTracking(true);
@@ -30,10 +60,13 @@ void BoardPicture::DrawBoard(LetterMode letters) {
 
 void BoardPicture::setView(const BoardView& view) {
   m_view = view;
-  QPalette palette = m_marker->palette();
-  palette.setColor(QPalette::Window, m_view.colours.entries);
-  m_marker->setPalette(palette);
-  m_marker->setAutoFillBackground(true);
+  static_cast<SelectionMarker*>(m_marker)->setColour(m_view.colours.entries);
+  update();
+}
+
+void BoardPicture::setHighlightedHexagon(int hex) {
+  if (m_view.highlightHex == hex) return;
+  m_view.highlightHex = hex;
   update();
 }
 
@@ -62,7 +95,7 @@ void BoardPicture::hideMarker() { m_marker->hide(); }
 void BoardPicture::paintOn(QPainter& painter) const {
   const Twips twips{m_layout.TwipsPerPixelX, m_layout.TwipsPerPixelY};
   const QtTextMeasure measure(m_view.font, painter.device(), twips);
-  const SceneOptions options{m_view.letters, m_view.outlineWidth, m_view.shrinkPercent, true};
+  const SceneOptions options{m_view.letters, m_view.outlineWidth, m_view.shrinkPercent, true, m_view.highlightHex};
   paintBoardScene(painter, buildBoardScene(m_board, m_state, m_layout, options, measure), m_view.colours, m_view.font,
                   twips);
   if (!m_marks.empty()) {
@@ -126,8 +159,8 @@ void BoardPicture::keyPressEvent(QKeyEvent* event) {
 }
 
 void BoardPicture::keyReleaseEvent(QKeyEvent* event) {
-  static const std::pair<int, int> kKeys[] = {{Qt::Key_End, 35},  {Qt::Key_Home, 36}, {Qt::Key_Left, 37},
-                                              {Qt::Key_Up, 38},   {Qt::Key_Right, 39}, {Qt::Key_Down, 40}};
+  static const std::pair<int, int> kKeys[] = {{Qt::Key_End, 35}, {Qt::Key_Home, 36},  {Qt::Key_Left, 37},
+                                              {Qt::Key_Up, 38},  {Qt::Key_Right, 39}, {Qt::Key_Down, 40}};
   for (const auto& [key, code] : kKeys) {
     if (event->key() == key) {
       emit navigated(code);

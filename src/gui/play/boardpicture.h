@@ -24,6 +24,7 @@ struct BoardView {
   int outlineWidth = kDefaultOutlineWidth;
   int shrinkPercent = 0;
   LetterMode letters = LetterMode::Play;
+  int highlightHex = 0;  // the hexagon drawn highlighted; 0 for none
 };
 
 class BoardPicture : public QWidget {
@@ -35,6 +36,8 @@ class BoardPicture : public QWidget {
   // Redraws in full: the letters of `letters`, and no verification marks.
   void DrawBoard(LetterMode letters);
   void setView(const BoardView& view);
+  // Highlights one hexagon over the drawing (0 for none) and repaints.
+  void setHighlightedHexagon(int hex);
   const BoardView& view() const { return m_view; }
   // Marks drawn over the board until the next DrawBoard.
   void setMarks(std::vector<SceneLine> marks);

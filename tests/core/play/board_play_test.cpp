@@ -69,12 +69,13 @@ TEST(BoardScene, LettersFollowTheModeAndNumbersAreCentred) {
   auto textsOf = [&](LetterMode mode) {
     std::vector<std::string> texts;
     for (const auto& t : buildBoardScene(p.board, p.state, p.layout, {mode, 2, 0, false}, measure).texts)
-      texts.push_back(t.text + (t.colour == ColourRole::Entry ? "e" : "g"));
+      texts.push_back(t.text + (t.colour == ColourRole::Entry ? "e" : "g") + (t.bold ? "!" : ""));
     return texts;
   };
-  EXPECT_EQ(textsOf(LetterMode::Play), (std::vector<std::string>{"Fg", "Ze"}));
-  EXPECT_EQ(textsOf(LetterMode::Solution), (std::vector<std::string>{"Fg", "Qg"}));
-  EXPECT_EQ(textsOf(LetterMode::Sheet), (std::vector<std::string>{"Fg"}));
+  // Given letters are bold as well as coloured; typed ones are not.
+  EXPECT_EQ(textsOf(LetterMode::Play), (std::vector<std::string>{"Fg!", "Ze"}));
+  EXPECT_EQ(textsOf(LetterMode::Solution), (std::vector<std::string>{"Fg!", "Qg!"}));
+  EXPECT_EQ(textsOf(LetterMode::Sheet), (std::vector<std::string>{"Fg!"}));
 
   const BoardScene scene = buildBoardScene(p.board, p.state, p.layout, {}, measure);
   EXPECT_EQ(scene.outlines.size(), 7u);
@@ -84,6 +85,17 @@ TEST(BoardScene, LettersFollowTheModeAndNumbersAreCentred) {
   EXPECT_DOUBLE_EQ(scene.circles[0].cx, p.layout.CellX[2][6] + 112.5);
   EXPECT_DOUBLE_EQ(scene.circles[0].cy, p.layout.CellY[2][6]);
   EXPECT_DOUBLE_EQ(scene.circles[0].radius, 120.0);
+  EXPECT_FALSE(scene.highlight);
+
+  // The highlighted hexagon lies exactly on its outline, shrunken or not.
+  for (const int shrink : {0, 20}) {
+    SceneOptions options{LetterMode::Play, 3, shrink, true, 4};
+    const BoardScene lit = buildBoardScene(p.board, p.state, p.layout, options, measure);
+    ASSERT_TRUE(lit.highlight);
+    EXPECT_EQ(lit.highlight->points, lit.outlines[3].points);
+    EXPECT_EQ(lit.highlight->penWidth, 3);
+  }
+  EXPECT_FALSE(buildBoardScene(p.board, p.state, p.layout, {LetterMode::Play, 2, 0, true, 8}, measure).highlight);
 }
 
 TEST(PointerEntry, PointerSelectsCellsOfHexagonsAndClearsElsewhere) {

@@ -50,6 +50,30 @@ TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
   EXPECT_EQ(panel.height, panel.lines[12].y + 400);
 }
 
+TEST(CluePanel, LinksEachHexagonToItsTwoCluesAndBack) {
+  PuzzleState state;
+  state.WordCount = 4;
+  state.ClueTexts[1] = "outside one";
+  state.ClueTexts[2] = "inside one is long enough to wrap";
+  state.ClueTexts[4] = "inside two";
+  const CluePanel panel = layOutClues(state, CharMeasure(), 700);
+  const HexagonClues first = cluesOfHexagon(panel, 1);
+  ASSERT_TRUE(first.inside && first.outside);
+  EXPECT_EQ(*first.inside, (ClueSpan{2, 200, 400}));  // both of its wrapped lines
+  EXPECT_EQ(*first.outside, (ClueSpan{1, 796, 896}));
+  EXPECT_EQ(cluesOfHexagon(panel, 2).outside, (ClueSpan{3, 944, 1044}));  // an empty clue keeps its line
+  EXPECT_FALSE(cluesOfHexagon(panel, 3).inside);
+
+  EXPECT_EQ(clueAt(panel, 200), (ClueHit{2, 1, true}));
+  EXPECT_EQ(clueAt(panel, 399), (ClueHit{2, 1, true}));
+  EXPECT_EQ(clueAt(panel, 447), (ClueHit{2, 1, true}));  // the gap below belongs to the clue
+  EXPECT_EQ(clueAt(panel, 448), (ClueHit{4, 2, true}));
+  EXPECT_EQ(clueAt(panel, 1000), (ClueHit{3, 2, false}));
+  EXPECT_FALSE(clueAt(panel, 150));  // a heading
+  EXPECT_FALSE(clueAt(panel, 700));
+  EXPECT_FALSE(clueAt(panel, 5000));
+}
+
 TEST(Browsing, ArrowsWrapAndTheRightButtonJumpsToTheEnds) {
   auto none = std::function<double()>{};
   EXPECT_EQ(arrowTarget(0, 1, 1, 10, none), 10);

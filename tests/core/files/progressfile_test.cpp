@@ -1,0 +1,132 @@
+// The progress file: what is kept reads back the same, damaged lines are
+// left out and reported, and the file stays bounded.
+#include "core/files/progressfile.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "core/files/textfile.h"
+#include "support/tempfolder.h"
+
+namespace combwise {
+namespace {
+
+struct Puzzle7 {
+  Puzzle7() { setUpPuzzle(board, state, 7); }
+  Board board;
+  PuzzleState state;
+};
+
+TEST(ProgressFile, KeepsLettersAndSolvesAcrossASaveAndARead) {
+  TempFolder folder;
+  const std::string collection = folder.file("my puzzles.txt");
+  Puzzle7 p;
+  p.state.Entries.at(2, 7) = "A";
+  p.state.Entries.at(3, 8) = "@";
+  p.state.Entries.at(1, 5) = "G";  // a given cell: not the player's to keep
+  p.state.Entries.at(0, 0) = "Z";  // outside the puzzle
+  ProgressStore store;
+  store.keepEntries(collection, 3, p.board, p.state);
+  store.keepEntries(folder.file("other.txt"), 1, p.board, p.state);
+  EXPECT_EQ(store.recordSolved(collection, 3, 125).bestSeconds, 125);
+  EXPECT_EQ(store.recordSolved(collection, 3, 98).bestSeconds, 98);
+  EXPECT_EQ(store.recordSolved(collection, 3, 140), (SolvedRecord{collection, 3, 140, 98}));
+
+  const std::string path = progressPath(folder.folder());
+  ASSERT_TRUE(writeProgressFile(path, store).ok());
+  const std::string text = TempFolder::contentOf(path);
+  EXPECT_EQ(text.substr(0, text.find("other")), "combwise progress 1\r\nentries 1 2.7=A,3.8=@ " + folder.folder());
+  EXPECT_NE(text.find("entries 3 2.7=A,3.8=@ " + collection + "\r\n"), std::string::npos);
+  EXPECT_NE(text.find("solved 3 140 98 " + collection + "\r\n"), std::string::npos);
+
+  const ProgressRead read = readProgressFile(path);
+  EXPECT_TRUE(read.problems.empty());
+  EXPECT_EQ(read.store, store);
+
+  Puzzle7 later;
+  later.state.Entries.at(4, 7) = "Q";  // a letter left from another puzzle on this board
+  ASSERT_TRUE(read.store.restoreEntries(collection, 3, later.board, later.state));
+  EXPECT_EQ(later.state.Entries.at(2, 7), "A");
+  EXPECT_EQ(later.state.Entries.at(3, 8), "@");
+  EXPECT_EQ(later.state.Entries.at(4, 7), "");
+  EXPECT_EQ(later.state.Entries.at(1, 5), "");
+  EXPECT_FALSE(read.store.restoreEntries(collection, 4, later.board, later.state));
+  EXPECT_TRUE(read.store.solved(collection, 3));
+  EXPECT_FALSE(read.store.solved(collection, 4));
+
+  // A relative path names the same collection as its absolute form.
+  const auto here = std::filesystem::current_path();
+  std::filesystem::current_path(folder.folder());
+  EXPECT_NE(read.store.entriesOf("./my puzzles.txt", 3), nullptr);
+  std::filesystem::current_path(here);
+
+  // Clearing a puzzle's letters forgets it.
+  ProgressStore cleared = read.store;
+  cleared.keepEntries(collection, 3, Puzzle7().board, Puzzle7().state);
+  EXPECT_EQ(cleared.entriesOf(collection, 3), nullptr);
+}
+
+TEST(ProgressFile, DamagedLinesAreLeftOutAndReported) {
+  std::vector<std::string> problems;
+  const ProgressStore store = ProgressStore::parse(
+      "combwise progress 1\n"
+      "entries 2 1.5=A /a/b.txt\r\n"
+      "entries 0 1.5=A /a/b.txt\n"   // no puzzle 0
+      "entries 3 13.5=A /a/b.txt\n"  // row beyond the grid
+      "entries 3 1.5=a /a/b.txt\n"   // not a letter the board takes
+      "entries 3 1.5=A,1.5=B /a/b.txt\n"
+      "entries 3 1.5=A relative.txt\n"
+      "entries 2 1.6=B /a/b.txt\n"  // listed twice: the newer line counts
+      "solved 2 10 20 /a/b.txt\n"   // best worse than the last time
+      "solved 2 x 1 /a/b.txt\n"
+      "\n# a comment\n"
+      "solved 2 30 20 /a/b c.txt\n"
+      "something else\n"
+      "entries",
+      "progress.txt", problems);
+  ASSERT_EQ(store.entries().size(), 1u);
+  EXPECT_EQ(store.entries()[0], (PuzzleEntries{"/a/b.txt", 2, {{1, 5, 'A'}}}));
+  ASSERT_EQ(store.solvedRecords().size(), 1u);
+  EXPECT_EQ(store.solvedRecords()[0], (SolvedRecord{"/a/b c.txt", 2, 30, 20}));
+  ASSERT_EQ(problems.size(), 10u);
+  EXPECT_EQ(problems[0], "progress.txt line 3 left out: the puzzle number or the letters cannot be read");
+  EXPECT_EQ(problems[6], "progress.txt line 9 left out: the puzzle number or the times cannot be read");
+
+  std::vector<std::string> many;
+  std::string junk;
+  for (int i = 0; i < 30; ++i) junk += "junk\n";
+  ProgressStore::parse(junk, "p.txt", many);
+  ASSERT_EQ(many.size(), 21u);  // twenty lines named, the rest counted
+  EXPECT_EQ(many.back(), "p.txt: 10 more damaged lines left out");
+}
+
+TEST(ProgressFile, StaysBoundedAndFailsWithTheFileNamed) {
+  Puzzle7 p;
+  p.state.Entries.at(2, 7) = "A";
+  ProgressStore store;
+  for (int n = 1; n <= static_cast<int>(kMaxEntryRecords) + 5; ++n) store.keepEntries("/c.txt", n, p.board, p.state);
+  EXPECT_EQ(store.entries().size(), kMaxEntryRecords);
+  EXPECT_EQ(store.entries().front().number, static_cast<int>(kMaxEntryRecords) + 5);  // the oldest went
+  EXPECT_EQ(store.entriesOf("/c.txt", 5), nullptr);
+
+  TempFolder folder;
+  EXPECT_TRUE(readProgressFile(folder.file("none.txt")).problems.empty());  // the first run
+  std::filesystem::create_directory(folder.file("dir"));
+  const ProgressRead dir = readProgressFile(folder.file("dir"));
+  ASSERT_EQ(dir.problems.size(), 1u);
+  EXPECT_NE(dir.problems[0].find(folder.file("dir")), std::string::npos);
+  std::filesystem::create_directory(folder.file("dir/combwise-progress.txt"));
+  const Status failed = writeProgressFile(folder.file("dir/combwise-progress.txt"), store);
+  EXPECT_FALSE(failed.ok());
+  EXPECT_NE(failed.error.find("combwise-progress.txt"), std::string::npos);
+
+  writeLines(folder.file("long.txt"), {std::string(kMaxProgressLine + 10, 'x'), "solved 1 5 5 /d.txt"},
+             WriteMode::Truncate);
+  const ProgressRead longLine = readProgressFile(folder.file("long.txt"));
+  EXPECT_EQ(longLine.problems.size(), 1u);
+  EXPECT_EQ(longLine.store.solvedRecords().size(), 1u);
+}
+
+}  // namespace
+}  // namespace combwise

@@ -1,0 +1,61 @@
+// Every shipped colour scheme, and the board as it looks before any
+// settings exist, keeps letters, numbers and lines readable on the
+// hexagons, also on a highlighted one.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "core/files/boardoptions.h"
+#include "core/files/contrast.h"
+#include "core/play/boardscene.h"
+
+namespace combwise {
+namespace {
+
+void expectReadable(const std::string& what, const SchemeBoardColours& c) {
+  const int highlighted = blendColours(c.highlight, c.fill, kHighlightOpacity);
+  for (const auto& [ground, name] : {std::pair{c.fill, "hexagon"}, std::pair{highlighted, "highlighted hexagon"}}) {
+    EXPECT_GE(contrastRatio(c.given, ground), kTextContrast) << what << ": given letters on the " << name;
+    EXPECT_GE(contrastRatio(c.entries, ground), kTextContrast) << what << ": typed letters on the " << name;
+    EXPECT_GE(contrastRatio(c.numbers, ground), kGraphicContrast) << what << ": numbers and lines on the " << name;
+  }
+  EXPECT_GE(contrastRatio(c.outline, c.fill), kGraphicContrast) << what << ": outlines";
+}
+
+TEST(SchemeContrast, RatiosFollowTheGuidelines) {
+  EXPECT_DOUBLE_EQ(contrastRatio(rgb(0, 0, 0), rgb(255, 255, 255)), 21.0);
+  EXPECT_DOUBLE_EQ(contrastRatio(rgb(9, 9, 9), rgb(9, 9, 9)), 1.0);
+  EXPECT_NEAR(contrastRatio(rgb(255, 255, 255), rgb(118, 118, 118)), 4.54, 0.01);
+  EXPECT_NEAR(contrastRatio(rgb(255, 0, 0), rgb(255, 255, 255)), 4.00, 0.01);
+  EXPECT_EQ(blendColours(rgb(255, 0, 100), rgb(0, 255, 100), 0.5), rgb(128, 128, 100));
+}
+
+TEST(SchemeContrast, EveryShippedSchemeIsReadable) {
+  const std::string file = COMBWISE_BIN_DIR "/all.col";  // the shipped copy of data/all.col;
+  std::ifstream in(file, std::ios::binary);
+  std::stringstream text;
+  text << in.rdbuf();
+  const std::vector<std::string> names = schemeList(file);
+  ASSERT_GE(names.size(), 6u);
+  for (const auto& name : names) {
+    ColourScheme scheme;
+    ASSERT_EQ(readSchemeText(text.str(), name + ".col", scheme.colours), SchemeSearch::Complete) << name;
+    expectReadable(name, SchemeBoardColours::of(scheme));
+  }
+}
+
+TEST(SchemeContrast, TheBoardBeforeAnySettingsIsReadable) {
+  const Settings start = startupSettings();
+  SchemeBoardColours colours;
+  colours.fill = start.HexFillColour;
+  colours.outline = start.OutlineColour;
+  colours.numbers = start.HexNumberColour;
+  colours.given = start.GivenLetterColour;
+  colours.entries = start.EntryColour;
+  colours.highlight = ColourScheme{}[SchemeBoardColours::kHighlight];
+  expectReadable("start-up board", colours);
+}
+
+}  // namespace
+}  // namespace combwise
