@@ -35,6 +35,7 @@ enum class Redraw : unsigned {
   Recent = 1u << 11,       // the recent-files menu
   Dictionary = 1u << 12,   // the dictionary's name
   Size = 1u << 13,         // the size to create
+  Record = 1u << 14,       // the puzzle counter's solved mark and the timer
 };
 
 constexpr Redraw operator|(Redraw a, Redraw b) {

@@ -55,6 +55,7 @@ CommandResult GameSession::startUp() {
   m_scheme[ColourScheme::kButtonOverride] = m_settings.schemeColour13;
   const ScreenMeasures screen = m_host.measures();
   m_layout = LayOutBoard({-1, 0, 0, 225, 375, screen.twipsPerPixelX, screen.twipsPerPixelY});
+  loadPlayerFiles(result);
   result.redraw = Redraw::Recent | Redraw::Look;
   return result;
 }
@@ -131,6 +132,7 @@ ClueSource GameSession::clueSource() {
 }
 
 bool GameSession::showPuzzle(const std::string& path, int n, CommandResult& result) {
+  keepShownEntries();  // while the board is still the puzzle they were typed on
   const PuzzleReadResult read = readPuzzle(path, n, m_board, m_puzzle, clueSource());
   if (read.outcome == ReadOutcome::NoPuzzles || read.outcome == ReadOutcome::Unreadable)
     result.messages.push_back({read.message, "vbok+vbcritical"});
@@ -148,6 +150,7 @@ void GameSession::puzzleShown(const PuzzleReadResult& read, CommandResult& resul
   m_hasPuzzle = true;
   m_marks.clear();
   result.redraw |= Redraw::Puzzle | Redraw::Size;
+  puzzleChanged(result);
 }
 
 void GameSession::fitBoard(CommandResult& result) {

@@ -10,11 +10,15 @@
 // The commands live in files by responsibility: start-up, settings and
 // reading puzzles (gamesession.cpp), collections (collectioncommands.cpp),
 // play on the board (playcommands.cpp), making puzzles and the collection
-// tools (makecommands.cpp).
+// tools (makecommands.cpp), keyboard play and the player's letters
+// (keyboard.cpp), and the progress kept between runs with the puzzle timer
+// (progress.cpp).
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/files/boardoptions.h"
@@ -22,13 +26,17 @@
 #include "core/files/config.h"
 #include "core/files/dictionary.h"
 #include "core/files/errorlog.h"
+#include "core/files/extraoptions.h"
+#include "core/files/progressfile.h"
 #include "core/files/puzzlefile.h"
 #include "core/generator/puzzlemaker.h"
 #include "core/model/board.h"
 #include "core/model/puzzlestate.h"
 #include "core/model/random.h"
 #include "core/play/boardscene.h"
+#include "core/play/hexagonjump.h"
 #include "core/play/layout.h"
+#include "core/play/puzzletimer.h"
 #include "core/session/commandresult.h"
 #include "core/session/sessionhost.h"
 
@@ -86,6 +94,41 @@ class GameSession {
   // The first `count` hexagons filled in as a player would have.
   CommandResult revealHexagons(int count);
 
+  // --- Keyboard play and the player's letters (keyboard.cpp) ---
+  // The pointer left the board picture: no cell stays selected.
+  CommandResult pointerLeft();
+  // Tab (Next) and Shift+Tab (Previous): the first open cell of the next
+  // or previous hexagon.
+  CommandResult stepHexagon(HexStep step);
+  // A clue of hexagon `hex` clicked: its first open cell.
+  CommandResult selectHexagon(int hex);
+  CommandResult redo();
+  // The player's letters on the puzzle's cells cleared as one undoable step.
+  CommandResult clearLetters();
+  // The hexagon of the selected cell; 0 without a selection.
+  int selectedHexagon() const;
+
+  // --- Progress, timer and solved records (progress.cpp) ---
+  // Writes the progress file when letters or records changed since the
+  // last write. A failed write is reported once a run.
+  CommandResult saveProgress();
+  bool progressUnsaved() const { return m_progressUnsaved || m_lettersChanged; }
+  // The window became active or inactive (minimised counts as inactive):
+  // the timer runs only while it is active.
+  void windowActive(bool active);
+  long long elapsedSeconds() const { return m_timer.elapsedSeconds(); }
+  std::string timerText() const { return formatElapsed(m_timer.elapsedSeconds()); }
+  bool timerRunning() const { return m_timer.running(); }
+  // The solved record of the puzzle shown, if it was ever solved.
+  std::optional<SolvedRecord> solvedRecord() const;
+  const ExtraOptions& extraOptions() const { return m_extraOptions; }
+  // Keeps both play options in their file; the window repaints nothing.
+  CommandResult setExtraOptions(bool cleanBoardEachPuzzle, bool noWordTwice);
+  // The clock of the puzzle timer (tests drive it by hand).
+  void setClock(PuzzleTimer::Clock clock) { m_timer = PuzzleTimer(std::move(clock)); }
+  // Where a file of the player's own (progress, play options) is kept.
+  std::string playerFilePath(std::string_view name) const { return m_programFolder + std::string(name); }
+
   // --- Making puzzles and the collection tools (makecommands.cpp) ---
   // The size label's click: the next size of 7, 10, 17, 22.
   CommandResult nextSize();
@@ -142,6 +185,18 @@ class GameSession {
   void openCollection(const std::string& path, int count, CommandResult& result);
   void rememberRecent(const std::string& path, CommandResult& result);
   void setBusy(Busy busy);
+  // Progress and play options read at start-up.
+  void loadPlayerFiles(CommandResult& result);
+  // A puzzle was read: the letters of the one before are kept, the timer
+  // starts for a different puzzle, and its letters come back or go as the
+  // options say.
+  void puzzleChanged(CommandResult& result);
+  void keepShownEntries();
+  // The puzzle was solved: the timer stops and the solve is recorded.
+  void puzzleSolved(CommandResult& result);
+  void lettersChanged() { m_lettersChanged = true; }
+  // Whether the puzzle shown is one of a collection (not the one just made).
+  bool keepsProgress() const;
 
   std::string m_programFolder;
   SessionHost& m_host;
@@ -166,6 +221,16 @@ class GameSession {
   bool m_hasPuzzle = false;
   bool m_startedUp = false;
   bool m_cancelRequested = false;
+
+  ProgressStore m_progress;
+  ExtraOptions m_extraOptions;
+  PuzzleTimer m_timer;
+  std::string m_shownCollection;  // the puzzle the letters on the board belong to
+  int m_shownNumber = 0;
+  bool m_windowActive = true;
+  bool m_lettersChanged = false;   // since they were last kept in the store
+  bool m_progressUnsaved = false;  // the store differs from the file
+  bool m_progressErrorShown = false;
 };
 
 }  // namespace combwise

@@ -24,6 +24,7 @@ CommandResult GameSession::create() {
     result.messages.push_back({kLargePuzzleRefusal, "vbcritical+vbok"});
     return result;
   }
+  result.add(saveProgress());  // the letters belong to the puzzle still shown
   CreateResult made;
   {
     const PointerScope pointer(m_host);

@@ -32,6 +32,7 @@ CommandResult GameSession::type(int code) {
   const auto entry = entryForKey(code);
   if (!entry) return {};
   enterAtSelection(m_puzzle, *entry);
+  lettersChanged();
   return redrawing(Redraw::Board);
 }
 
@@ -49,6 +50,7 @@ CommandResult GameSession::undo(int mouseButton) {
     return result;
   }
   undoLast(m_puzzle);
+  lettersChanged();
   return redrawing(Redraw::Board);
 }
 
@@ -70,6 +72,7 @@ CommandResult GameSession::verifyPressed() {
   if (unfinished.empty()) {
     result.status = "All Done ...";
     result.messages.push_back({"All done !", "vbhappy+vbok"});
+    puzzleSolved(result);
   } else {
     result.status = "Not done yet";
   }
@@ -105,6 +108,7 @@ CommandResult GameSession::zoom(int index) {
 
 CommandResult GameSession::revealHexagons(int count) {
   combwise::revealHexagons(m_board, m_puzzle, count);
+  lettersChanged();
   return redrawing(Redraw::Board);
 }
 

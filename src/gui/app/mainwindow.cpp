@@ -45,6 +45,7 @@ MainWindow::MainWindow(std::string programFolder, WindowServices services, QWidg
   }
   buildControls();
   buildMenus();
+  wirePlay();
   paint(m_session.startUp());
   m_startTimer->start();
 }
@@ -147,6 +148,7 @@ void MainWindow::buildControls() {
   connect(m_picture, &BoardPicture::hovered, this, [this](double x, double y) { paint(m_session.hover(x, y)); });
   connect(m_picture, &BoardPicture::typed, this, [this](int code) { paint(m_session.type(code)); });
   connect(m_picture, &BoardPicture::navigated, this, [this](int key) { paint(m_session.navigate(key)); });
+  connect(m_picture, &BoardPicture::left, this, [this] { paint(m_session.pointerLeft()); });
   body->addWidget(m_boardFrame, 3);
 
   m_clueFrame = new QGroupBox("Clues", this);
@@ -218,7 +220,7 @@ void MainWindow::buildMenus() {
   QAction* print = m_fileMenu->addAction("Print Puzzle File");
   print->setObjectName("mnuprint");
   print->setShortcut(QKeySequence::Print);
-  m_fileMenu->addSeparator();
+  // The recent files follow; their own separator shows only with them.
   for (int i = 0; i < Settings::kRecentFiles; ++i) {
     m_recentActions[i] = m_fileMenu->addAction(QString());
     m_recentActions[i]->setObjectName(QString("mnuoldfiles%1").arg(i));

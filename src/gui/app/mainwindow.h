@@ -88,6 +88,12 @@ class MainWindow : public QMainWindow, private SessionHost {
   void updateRecentMenu();
   void moveBoardHome();
 
+  // Play beyond the board's own keys (playwiring.cpp).
+  void wirePlay();
+  // A menu closed: when the pointer rests on the board, the keys go back
+  // to it rather than staying with the menu bar.
+  void returnKeysToBoard();
+
   // The options window and the look (optionscommands.cpp).
   void editOptions();
   void showHelp();

@@ -124,6 +124,15 @@ void BoardPicture::mouseMoveEvent(QMouseEvent* event) {
   emit hovered(event->position().x() * m_layout.TwipsPerPixelX, event->position().y() * m_layout.TwipsPerPixelY);
 }
 
+void BoardPicture::hoverAt(const QPoint& at) {
+  emit hovered(at.x() * m_layout.TwipsPerPixelX, at.y() * m_layout.TwipsPerPixelY);
+}
+
+void BoardPicture::leaveEvent(QEvent* event) {
+  emit left();
+  QWidget::leaveEvent(event);
+}
+
 void BoardPicture::keyPressEvent(QKeyEvent* event) {
   if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
     event->ignore();  // leave the window's shortcuts alone

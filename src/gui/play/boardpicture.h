@@ -50,6 +50,8 @@ class BoardPicture : public QWidget {
   QWidget* marker() const { return m_marker; }
   void showMarkerAt(int row, int col);
   void hideMarker();
+  // Reports the pointer resting at `at` (pixels), as a move there would.
+  void hoverAt(const QPoint& at);
   // Size and marker size from the layout, in pixels.
   void applyLayout();
 
@@ -60,11 +62,14 @@ class BoardPicture : public QWidget {
   // was released (its key code as the platform numbers it: 35..40).
   void typed(int code);
   void navigated(int keyCode);
+  // The pointer left the picture.
+  void left();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 

@@ -6,6 +6,7 @@
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 namespace combwise {
 
@@ -163,7 +164,21 @@ void BoxControl::mousePressEvent(QMouseEvent* event) {
   }
   m_down = true;
   update();
+  // A box shown by the press takes the mouse, and the release that ends the
+  // press goes to the box: the window's blocking says the press is over.
+  QPointer<QWidget> top = window();
+  top->installEventFilter(this);
+  const QPointer<BoxControl> alive(this);
   emit press(button);
+  if (alive && top) top->removeEventFilter(this);
+}
+
+bool BoxControl::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::WindowBlocked && m_down && !m_keyDown) {
+    m_down = false;
+    update();
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void BoxControl::mouseMoveEvent(QMouseEvent* event) {

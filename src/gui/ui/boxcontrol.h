@@ -30,6 +30,9 @@ class BoxControl : public QWidget {
   QString ToolTipText1() const { return toolTip(); }
   void setToolTipText1(const QString& text) { setToolTip(text); }
 
+  // Drawn pressed: a mouse button or an activation key is held on it.
+  bool isDown() const { return m_down; }
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -49,6 +52,7 @@ class BoxControl : public QWidget {
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QString m_caption;
