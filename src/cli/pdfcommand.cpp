@@ -108,8 +108,9 @@ int runPdf(Context& context, const Arguments& args) {
   PdfTarget pdf(QString::fromStdString(*output));
   const RangeOutcome printed =
       PrintPuzzleRange(pdf, range.range->first, range.range->last, count, load, parsed.has("--clues"));
-  if (!printed.opened) {
-    context.err << "combwise-cli pdf: cannot write " << *output << "\n";
+  if (!printed.opened || !printed.written) {
+    // Nothing was left behind: the file appears only when written in full.
+    context.err << "combwise-cli pdf: " << (pdf.error().empty() ? "Cannot write " + *output : pdf.error()) << "\n";
     return 1;
   }
   context.out << NumberText(printed.printed) << " puzzles printed to " << *output << "\n";
