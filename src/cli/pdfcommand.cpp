@@ -77,7 +77,8 @@ int runPdf(Context& context, const Arguments& args) {
   const std::string& path = parsed.positional[0];
   const int count = countPuzzles(path);
   if (count == 0) {
-    context.err << "combwise-cli pdf: " << path << " holds no puzzles\n";
+    const auto reason = unreadableReason(path);
+    context.err << "combwise-cli pdf: " << (reason ? *reason : path + " holds no puzzles") << "\n";
     return 1;
   }
   const PrintRangeCheck range = parseToolRange(parsed.positional[1], count);
