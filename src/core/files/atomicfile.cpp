@@ -65,6 +65,9 @@ Status AtomicFile::open() {
   const bool exists = ::stat(m_target.c_str(), &info) == 0;
   if (exists && S_ISDIR(info.st_mode)) fail(EISDIR);
   if (exists && !S_ISREG(info.st_mode)) failWith(notRegularMessage("write", m_path));
+  // A file marked read-only stays so, although its folder would let a new
+  // file take its place.
+  if (exists && !failed() && ::access(m_target.c_str(), W_OK) != 0) fail(errno);
   if (failed()) return Status::failure(m_error);
 
   std::mt19937_64 random(std::random_device{}());
@@ -84,27 +87,29 @@ Status AtomicFile::open() {
   return Status::success();
 }
 
-bool AtomicFile::flush() {
-  std::size_t done = 0;
-  while (done < m_buffer.size()) {
+bool AtomicFile::writeOut(std::string_view bytes) {
+  while (!bytes.empty()) {
     errno = 0;
-    const ssize_t wrote = m_write(m_fd, m_buffer.data() + done, m_buffer.size() - done);
+    const ssize_t wrote = m_write(m_fd, bytes.data(), bytes.size());
     if (wrote < 0 && errno == EINTR) continue;
+    // A write that takes nothing without a cause is a full disk as well.
     if (wrote <= 0) return fail(wrote < 0 && errno != 0 ? errno : ENOSPC);
-    done += static_cast<std::size_t>(wrote);
+    bytes.remove_prefix(static_cast<std::size_t>(wrote));
   }
-  m_buffer.clear();
   return true;
+}
+
+bool AtomicFile::flush() {
+  const bool written = writeOut(m_buffer);
+  m_buffer.clear();
+  return written;
 }
 
 bool AtomicFile::write(std::string_view bytes) {
   if (failed()) return false;
   if (m_fd < 0 && !open().ok()) return false;
   if (m_buffer.size() + bytes.size() > kBufferSize && !flush()) return false;
-  if (bytes.size() >= kBufferSize) {
-    m_buffer.assign(bytes);
-    return flush();
-  }
+  if (bytes.size() >= kBufferSize) return writeOut(bytes);
   m_buffer.append(bytes);
   return true;
 }

@@ -43,6 +43,7 @@ class AtomicFile {
   const std::string& path() const { return m_path; }
 
  private:
+  bool writeOut(std::string_view bytes);
   bool flush();
   bool fail(int errorNumber);
   bool failWith(std::string message);

@@ -31,7 +31,7 @@ class PdfTarget : public PrintTarget {
   const QString& path() const { return m_path; }
   // Why the file could not be written, naming it and the cause ("Cannot
   // write D/p.pdf: No space left on device"); empty after a success.
-  const std::string& error() const { return m_error; }
+  std::string error() const override { return m_error; }
 
  private:
   QString m_path;
