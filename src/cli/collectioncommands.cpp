@@ -127,7 +127,7 @@ int runCheck(Context& context, const Arguments& args) {
 
   LineReader reader(path);
   if (!reader.isOpen()) {
-    context.err << "combwise-cli check: " << fileErrorMessage("open", path, reader.errorNumber()) << "\n";
+    context.err << "combwise-cli check: " << reader.error() << "\n";
     return 1;
   }
   reader.setMaxLineLength(kMaxPuzzleLineLength);
@@ -152,7 +152,7 @@ int runCheck(Context& context, const Arguments& args) {
     for (const auto& problem : problems) context.out << path << ":" << number << ": " << problem << "\n";
   }
   if (reader.failed()) {
-    context.err << "combwise-cli check: " << fileErrorMessage("read", path, reader.errorNumber()) << "\n";
+    context.err << "combwise-cli check: " << reader.error() << "\n";
     return 1;
   }
   if (number == 0) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <string>
 
 class QPainter;
 class QWidget;
@@ -29,6 +30,9 @@ class PrintTarget {
   virtual bool newPage() = 0;
   // Ends the document, which sends it to the printer or writes the file.
   virtual bool endDocument() = 0;
+  // After a failed begin or end: what went wrong, naming the file and the
+  // cause where there is one; empty when nothing is known.
+  virtual std::string error() const { return {}; }
 };
 
 }  // namespace combwise
