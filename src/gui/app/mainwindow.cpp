@@ -268,8 +268,10 @@ void MainWindow::buildMenus() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  // Closing by the window frame ends the program without saving settings.
+  // Closing by the window frame ends the program without saving settings;
+  // the player's letters are kept however it closes.
   if (m_session.creating()) paint(m_session.cancelCreation());
+  paint(m_session.saveProgress());
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (window != this && window->isVisible()) window->close();
   }

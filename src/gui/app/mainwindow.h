@@ -74,6 +74,7 @@ class MainWindow : public QMainWindow, private SessionHost {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   // Construction (mainwindow.cpp).
@@ -93,6 +94,11 @@ class MainWindow : public QMainWindow, private SessionHost {
   // A menu closed: when the pointer rests on the board, the keys go back
   // to it rather than staying with the menu bar.
   void returnKeysToBoard();
+  void addPlayCommands();
+  // The puzzle counter with its solved mark, and the timer.
+  void paintRecord();
+  // The selected cell's hexagon on the board and its clues.
+  void paintHighlight();
 
   // The options window and the look (optionscommands.cpp).
   void editOptions();
@@ -140,6 +146,9 @@ class MainWindow : public QMainWindow, private SessionHost {
   QMenu* m_fileMenu = nullptr;
   QMenu* m_puzzleMenu = nullptr;
   QTimer* m_startTimer = nullptr;  // Timer1
+  QLabel* m_timerLabel = nullptr;
+  QTimer* m_clockTimer = nullptr;     // the timer label's ticks
+  QTimer* m_progressTimer = nullptr;  // saves the player's letters soon after a change
 };
 
 }  // namespace combwise

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QListWidget>
 
+#include "core/files/contrast.h"
 #include "gui/app/mainwindow.h"
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
@@ -21,8 +22,13 @@ void MainWindow::editOptions() {
   if (!options) {
     options =
         new Form2(m_session.settings(), m_session.scheme(), QString::fromStdString(programFolder()), *m_prompter, this);
-    connect(options, &Form2::applied, this, [this, options] { paint(m_session.applyOptions(options->choice())); });
+    connect(options, &Form2::applied, this, [this, options] {
+      paint(m_session.applyOptions(options->choice()));
+      paint(m_session.setExtraOptions(options->cleanBoardChecked(), options->noWordTwiceChecked()));
+    });
   }
+  const ExtraOptions& extra = m_session.extraOptions();
+  options->setPlayOptions(extra.cleanBoardEachPuzzle, extra.noWordTwice);
   options->show();
   options->raise();
   options->activateWindow();
@@ -65,6 +71,8 @@ void MainWindow::applyLook() {
   view.colours.numbers = colourOf(look.numbers);
   view.colours.given = colourOf(look.given);
   view.colours.entries = colourOf(look.entries);
+  view.colours.highlight = colourOf(SchemeBoardColours::of(m_session.scheme()).highlight);
+  m_clues->setHighlightColour(view.colours.highlight);
   view.outlineWidth = look.outlineWidth;
   const QString family = QString::fromStdString(look.fontName);
   view.font = boardFont(family, m_session.fontSize());

@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QTimer>
 
 #include "core/model/text.h"
 #include "gui/app/mainwindow.h"
@@ -53,6 +54,7 @@ void MainWindow::paint(const CommandResult& result) {
   }
   if (relayout) m_picture->applyLayout();
   if (has(redraw, Redraw::Puzzle)) paintPuzzle();
+  if (has(redraw, Redraw::Puzzle | Redraw::Record)) paintRecord();
   if (has(redraw, Redraw::Board)) m_picture->DrawBoard(LetterMode::Play);
   if (has(redraw, Redraw::HideSolution)) showSolution(false);
   if (has(redraw, Redraw::Solution)) showSolution(true);
@@ -65,6 +67,7 @@ void MainWindow::paint(const CommandResult& result) {
       m_picture->setFocus();
     }
   }
+  if (has(redraw, Redraw::Marker | Redraw::Puzzle)) paintHighlight();
   if (relayout) m_boardFrame->setUpdatesEnabled(true);
   if (has(redraw, Redraw::Recent)) updateRecentMenu();
   if (has(redraw, Redraw::Dictionary)) showFileName(m_dictionaryLabel, m_session.settings().dictionaryPath);
@@ -79,6 +82,7 @@ void MainWindow::paint(const CommandResult& result) {
       m_prompter->ShowMessage(text(message.text), text(message.style));
   }
   if (!result.messages.empty()) pumpEvents();
+  if (m_session.progressUnsaved() && !m_progressTimer->isActive()) m_progressTimer->start();
   if (result.close) close();
 }
 

@@ -2,6 +2,7 @@
 #include "gui/ui/form2.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -184,10 +185,23 @@ void Form2::buildControls() {
   buttonRow->addWidget(m_cmdApply);
   buttonRow->addWidget(m_cmdExit);
 
+  auto* fraPlay = new QGroupBox("Play", this);
+  fraPlay->setObjectName("fraPlay");
+  m_chkCleanBoard = new QCheckBox("Start each puzzle with a clean board", fraPlay);
+  m_chkCleanBoard->setObjectName("chkCleanBoard");
+  m_chkCleanBoard->setToolTip("Clear your letters whenever another puzzle is shown");
+  m_chkNoWordTwice = new QCheckBox("No word twice in a puzzle", fraPlay);
+  m_chkNoWordTwice->setObjectName("chkNoWordTwice");
+  m_chkNoWordTwice->setToolTip("Created puzzles use each word once only");
+  auto* playBox = new QVBoxLayout(fraPlay);
+  playBox->addWidget(m_chkCleanBoard);
+  playBox->addWidget(m_chkNoWordTwice);
+
   auto* left = new QVBoxLayout;
   left->addLayout(schemeRow);
   left->addWidget(fraColours);
   left->addWidget(fraBorder);
+  left->addWidget(fraPlay);
   left->addStretch(1);
   auto* columns = new QHBoxLayout;
   columns->addLayout(left, 1);
@@ -227,6 +241,15 @@ OptionsChoice Form2::choice() const {
   choice.fontName = m_fontName.toStdString();
   return choice;
 }
+
+void Form2::setPlayOptions(bool cleanBoard, bool noWordTwice) {
+  m_chkCleanBoard->setChecked(cleanBoard);
+  m_chkNoWordTwice->setChecked(noWordTwice);
+}
+
+bool Form2::cleanBoardChecked() const { return m_chkCleanBoard->isChecked(); }
+
+bool Form2::noWordTwiceChecked() const { return m_chkNoWordTwice->isChecked(); }
 
 void Form2::chooseScheme(const QString& name) {
   DesignedColours designed;

@@ -13,6 +13,7 @@
 #include "core/files/colourscheme.h"
 #include "core/files/config.h"
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QListWidget;
@@ -39,6 +40,10 @@ class Form2 : public QDialog {
   void loadFromWindow();
   // What Apply hands over: the scheme chosen and the board options.
   OptionsChoice choice() const;
+  // The two play options, kept apart from the board's settings.
+  void setPlayOptions(bool cleanBoard, bool noWordTwice);
+  bool cleanBoardChecked() const;
+  bool noWordTwiceChecked() const;
 
   ColPik* picker() const { return m_picker; }
   QColor boardColour(BoardColour which) const;
@@ -86,6 +91,8 @@ class Form2 : public QDialog {
   QLabel* m_lblFont = nullptr;
   QLabel* m_lblFontName = nullptr;
   QListWidget* m_lstFonts = nullptr;
+  QCheckBox* m_chkCleanBoard = nullptr;
+  QCheckBox* m_chkNoWordTwice = nullptr;
   BoxControl* m_cmdApply = nullptr;
   BoxControl* m_cmdExit = nullptr;
 };
