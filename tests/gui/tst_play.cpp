@@ -21,6 +21,8 @@
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
 #include "gui/ui/boxcontrol.h"
+#include "gui/ui/form2.h"
+#include "render/boardpainter.h"
 #include "support/fakeprompter.h"
 #include "support/gamefolder.h"
 
@@ -53,8 +55,8 @@ class TestPlay : public QObject {
     FakeFileChooser files;
     std::unique_ptr<MainWindow> window;
 
-    explicit Game(int number = 1) {
-      folder.writeConfig(folder.writeCollection("ten.txt", GameFolder::readymade("7").mid(0, 10)), number);
+    explicit Game(int number = 1, const QString& size = "7") {
+      folder.writeConfig(folder.writeCollection("ten.txt", GameFolder::readymade(size).mid(0, 10)), number);
     }
     bool start() {
       window = std::make_unique<MainWindow>(folder.folder(), WindowServices{&prompter, &files});
@@ -121,6 +123,7 @@ class TestPlay : public QObject {
     QTest::mousePress(verify, Qt::LeftButton);
     QCOMPARE(game.prompter.messages.last().prompt, QString("All done !"));
     QVERIFY(!verify->isDown());
+    QTest::mouseRelease(verify, Qt::LeftButton);  // the test's mouse lets go too
   }
 
   void fileMenuShowsOneSeparatorBeforeHelpOnlyWithRecentFiles() {
@@ -142,6 +145,129 @@ class TestPlay : public QObject {
     game.action("mnuloadpuzfile")->trigger();
     QVERIFY(game.action("mnuoldfiles0")->isVisible());
     QCOMPARE(separatorsBeforeHelp(), 1);
+  }
+
+  void tabMovesBetweenHexagonsWithThePointerAwayAndTheUndoKeysWalkBothWays() {
+    Game game;
+    QVERIFY(game.start());
+    QTest::mouseMove(game.find<QWidget>("picouter"), QPoint(30, 30));
+    game.press(Qt::Key_Tab);
+    QCOMPARE(game.window->statusText(), QString("Hex = 1"));
+    const GridPos cell{game.puzzle().SelRow, game.puzzle().SelCol};
+    QVERIFY(cell.row != 0);
+    QVERIFY(game.window->boardPicture()->marker()->isVisible());
+    game.type('q');
+    QCOMPARE(game.entry(cell.row, cell.col), QString("Q"));
+    game.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(game.window->statusText(), QString("Hex = 7"));
+
+    game.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(game.entry(cell.row, cell.col), QString());
+    game.press(Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(game.entry(cell.row, cell.col), QString("Q"));
+    game.press(Qt::Key_Z, Qt::ControlModifier);
+    game.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(game.entry(cell.row, cell.col), QString("Q"));
+
+    game.action("mnuclearletters")->trigger();
+    QCOMPARE(game.entry(cell.row, cell.col), QString());
+    game.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(game.entry(cell.row, cell.col), QString("Q"));
+  }
+
+  void theSelectedHexagonAndItsCluesAreHighlightedAndShown() {
+    Game game(1, "22");
+    QVERIFY(game.start());
+    CluePicture* clues = game.window->cluePicture();
+    auto* viewport = game.find<QWidget>("picouter");
+    QVERIFY(clues->height() > viewport->height());
+    QWheelEvent wheel(QPointF(50, 50), clues->mapToGlobal(QPointF(50, 50)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(clues, &wheel);
+    QVERIFY(clues->y() < 0);
+
+    game.select(3, 6);
+    const int hex = game.window->board().HexAt(3, 6);
+    QCOMPARE(game.window->boardPicture()->view().highlightHex, hex);
+    QCOMPARE(clues->highlightedHexagon(), hex);
+
+    // The last hexagon's clues come into view: from no selection, Shift+Tab
+    // goes to hexagon 1 and then round to the last.
+    QTest::mouseMove(viewport, QPoint(30, 30));
+    QCOMPARE(clues->highlightedHexagon(), 0);
+    game.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    game.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(clues->highlightedHexagon(), 22);
+    const double perPixel = Twips::of(*clues).perPixelY;
+    const HexagonClues shown = cluesOfHexagon(clues->panel(), 22);
+    QVERIFY(shown.inside && shown.outside);
+    for (const ClueSpan& span : {*shown.inside, *shown.outside}) {
+      QVERIFY(clues->y() + span.top / perPixel >= 0);
+      QVERIFY(clues->y() + span.bottom / perPixel <= viewport->height());
+    }
+
+    // A click on a clue (no drag) selects the first open cell of its hexagon.
+    const ClueSpan third = *cluesOfHexagon(clues->panel(), 3).inside;
+    clues->move(0, 0);
+    QTest::mouseClick(clues, Qt::LeftButton, {}, QPoint(40, qRound((third.top + third.bottom) / 2 / perPixel)));
+    QCOMPARE(game.window->statusText(), QString("Hex = 3"));
+    QCOMPARE(game.window->board().HexAt(game.puzzle().SelRow, game.puzzle().SelCol), 3);
+    QVERIFY(game.entry(game.puzzle().SelRow, game.puzzle().SelCol).isEmpty());
+    QCOMPARE(clues->highlightedHexagon(), 3);
+  }
+
+  void aSolvedPuzzleShowsItsMarkAndTheTimerStops() {
+    Game game(2);
+    QVERIFY(game.start());
+    auto* timer = game.find<QLabel>("lbltimer");
+    QVERIFY(timer->text().startsWith("0:0"));
+    revealHexagons(*game.window, game.window->board().hexCount());
+    BoxControl* verify = game.find<BoxControl>("cmdverify");
+    QTest::mousePress(verify, Qt::LeftButton);
+    QTest::mouseRelease(verify, Qt::LeftButton);
+    const QString counter = game.find<QLabel>("lblcounter")->text();
+    QVERIFY2(counter.startsWith(QString::fromUtf8("p# 2 of 10  \u2713 0:0")), qPrintable(counter));
+    QVERIFY(!game.window->session().timerRunning());
+    game.action("mnunext")->trigger();
+    QCOMPARE(game.find<QLabel>("lblcounter")->text(), QString("p# 3 of 10"));
+  }
+
+  void lettersComeBackAfterTheWindowIsClosedByItsFrame() {
+    Game game;
+    QVERIFY(game.start());
+    game.select(3, 6);
+    game.type('w');
+    game.window->close();
+    game.window.reset();
+    QVERIFY(game.start());
+    QCOMPARE(game.entry(3, 6), QString("W"));
+  }
+
+  void playOptionsAreKeptInTheirOwnFileAndACleanBoardStartsEachPuzzle() {
+    Game game;
+    QVERIFY(game.start());
+    QFile config(game.folder.path("combwise.cfg"));
+    QVERIFY(config.open(QIODevice::ReadOnly));
+    const QByteArray settings = config.readAll();
+    config.close();
+    game.action("mnuoptions")->trigger();
+    auto* options = game.window->findChild<Form2*>();
+    QVERIFY(options);
+    auto* clean = options->findChild<QCheckBox*>("chkCleanBoard");
+    auto* distinct = options->findChild<QCheckBox*>("chkNoWordTwice");
+    QVERIFY(!clean->isChecked() && !distinct->isChecked());
+    clean->click();
+    distinct->click();
+    QTest::mouseClick(options->findChild<BoxControl*>("cmdApply"), Qt::LeftButton);
+    const ExtraOptions kept = readExtraOptions(extraOptionsPath(game.folder.folder())).options;
+    QVERIFY(kept.cleanBoardEachPuzzle && kept.noWordTwice);
+    QVERIFY(config.open(QIODevice::ReadOnly));
+    QCOMPARE(config.readAll(), settings);
+
+    game.select(3, 6);
+    game.type('r');
+    game.action("mnunext")->trigger();
+    QCOMPARE(game.entry(3, 6), QString());
   }
 };
 

@@ -1,0 +1,196 @@
+// The session's rules for play people come back to: letters kept between
+// runs without replacing those carried over from the puzzle before, the
+// clean-board option, the timer and the solved record, keyboard moves, redo
+// and clearing the player's letters, and a progress file that cannot be
+// written.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+
+#include "core/files/extraoptions.h"
+#include "core/files/progressfile.h"
+#include "core/session/gamesession.h"
+#include "support/gamedata.h"
+#include "support/tempfolder.h"
+
+namespace combwise {
+namespace {
+
+using std::chrono::milliseconds;
+
+class QuietHost : public SessionHost {
+ public:
+  int ask(const std::string&, const std::string&) override { return kAnswerYes; }
+  bool confirm(const std::string&) override { return true; }
+  std::string chooseFile(const FileQuestion&) override { return {}; }
+  void tell(const Message& message) override { told.push_back(message); }
+  std::vector<Message> told;
+};
+
+class PlayProgressTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    std::ofstream words(home.file("english3.txt"), std::ios::binary);
+    for (const char* word : {"CAT", "DOG", "BIRD", "FISH", "HORSE", "SHEEP"}) words << word << "\r\n";
+    std::ifstream in(testing::gameDataPath("puzzles.txt"), std::ios::binary);
+    std::ofstream out(home.file("ten.txt"), std::ios::binary);
+    std::string line;
+    for (int kept = 0; kept < 10 && std::getline(in, line);) {
+      if (line.rfind("7;", 0) != 0) continue;
+      out << line << (line.back() == '\r' ? "\n" : "\r\n");
+      ++kept;
+    }
+    path = home.file("ten.txt");
+  }
+
+  // A new run of the program at puzzle n of the collection, with a clock
+  // the test moves.
+  std::unique_ptr<GameSession> run(int n, CommandResult* started = nullptr) {
+    auto session = std::make_unique<GameSession>(home.folder(), host);
+    session->setClock([this] { return now; });
+    CommandResult result = session->startUp();
+    session->setStartCollection(path, n);
+    result.add(session->startStep());
+    if (started) *started = result;
+    return session;
+  }
+  static void select(GameSession& session, int row, int col) {
+    const BoardLayout& layout = session.layout();
+    session.hover(layout.cellX(row, col) + layout.CellWidth / 2.0, layout.cellY(row, col) + layout.CellHeight / 2.0);
+  }
+  static std::string at(const GameSession& session, int row, int col) { return session.puzzle().Entries.at(row, col); }
+
+  TempFolder home;
+  QuietHost host;
+  std::string path;
+  milliseconds now{1'000'000};
+};
+
+TEST_F(PlayProgressTest, LettersComeBackAtTheNextStartButNeverOverLettersCarriedOver) {
+  {
+    auto session = run(3);
+    select(*session, 3, 6);
+    session->type('k');
+    EXPECT_TRUE(session->progressUnsaved());
+    session->saveProgress();
+    EXPECT_FALSE(session->progressUnsaved());
+  }
+  auto session = run(3);
+  EXPECT_EQ(at(*session, 3, 6), "K");
+
+  // Browsing keeps the letters where they stand, as it always did.
+  select(*session, 3, 7);
+  session->type('q');
+  session->arrow(2, 1);
+  EXPECT_EQ(at(*session, 3, 6), "K");
+  EXPECT_EQ(at(*session, 3, 7), "Q");
+  // The first puzzle's letters were kept when it was left, the Q with them.
+  const ProgressRead kept = readProgressFile(progressPath(home.folder()));
+  ASSERT_NE(kept.store.entriesOf(path, 3), nullptr);
+  EXPECT_EQ(kept.store.entriesOf(path, 3)->cells.size(), 2u);
+}
+
+TEST_F(PlayProgressTest, ACleanBoardOptionClearsLettersForAnotherPuzzleOnlyAndBringsKeptOnesBack) {
+  auto session = run(1);
+  session->setExtraOptions(true, false);
+  EXPECT_TRUE(readExtraOptions(extraOptionsPath(home.folder())).options.cleanBoardEachPuzzle);
+  select(*session, 3, 6);
+  session->type('z');
+  session->reset();  // the same puzzle again: letters stay
+  EXPECT_EQ(at(*session, 3, 6), "Z");
+  session->arrow(2, 1);
+  EXPECT_EQ(at(*session, 3, 6), "");
+  EXPECT_TRUE(session->puzzle().UndoList.empty());
+  session->arrow(0, 1);
+  EXPECT_EQ(at(*session, 3, 6), "Z");
+}
+
+TEST_F(PlayProgressTest, TheTimerRunsWhileTheWindowIsActiveStopsWhenSolvedAndKeepsTheBestTime) {
+  auto session = run(2);
+  now += milliseconds{5'000};
+  session->windowActive(false);
+  now += milliseconds{100'000};
+  session->windowActive(true);
+  now += milliseconds{3'000};
+  EXPECT_EQ(session->timerText(), "0:08");
+  EXPECT_FALSE(session->solvedRecord());
+
+  session->verifyPressed();  // not done yet: the timer runs on
+  EXPECT_TRUE(session->timerRunning());
+  session->revealHexagons(session->board().hexCount());
+  const CommandResult done = session->verifyPressed();
+  EXPECT_EQ(done.status, "All Done ...");
+  EXPECT_TRUE(has(done.redraw, Redraw::Record));
+  now += milliseconds{60'000};
+  session->verifyPressed();
+  ASSERT_TRUE(session->solvedRecord());
+  EXPECT_EQ(session->solvedRecord()->seconds, 8);
+  EXPECT_EQ(session->timerText(), "0:08");
+
+  // Solved again faster after coming back: the best time follows.
+  session->arrow(2, 1);
+  session->arrow(0, 1);
+  now += milliseconds{2'000};
+  session->verifyPressed();
+  EXPECT_EQ(session->solvedRecord()->bestSeconds, 2);
+  session.reset();
+  EXPECT_EQ(run(2)->solvedRecord()->bestSeconds, 2);
+}
+
+TEST_F(PlayProgressTest, KeyboardMovesRedoAndClearingLetters) {
+  auto session = run(1);
+  EXPECT_EQ(session->stepHexagon(HexStep::Next).status, "Hex = 1");
+  EXPECT_EQ(session->selectedHexagon(), 1);
+  EXPECT_EQ(session->stepHexagon(HexStep::Next).status, "Hex = 2");
+  const GridPos cell{session->puzzle().SelRow, session->puzzle().SelCol};
+  session->type('m');
+  session->undo(1);
+  EXPECT_EQ(at(*session, cell.row, cell.col), "");
+  EXPECT_TRUE(has(session->redo().redraw, Redraw::Board));
+  EXPECT_EQ(at(*session, cell.row, cell.col), "M");
+  EXPECT_TRUE(session->redo().empty());
+
+  EXPECT_EQ(session->clearLetters().status, "Letters cleared");
+  EXPECT_EQ(at(*session, cell.row, cell.col), "");
+  session->undo(1);
+  EXPECT_EQ(at(*session, cell.row, cell.col), "M");
+
+  EXPECT_TRUE(has(session->pointerLeft().redraw, Redraw::Marker));
+  EXPECT_EQ(session->selectedHexagon(), 0);
+  EXPECT_TRUE(session->pointerLeft().empty());
+  EXPECT_EQ(session->selectHexagon(5).status, "Hex = 5");
+  EXPECT_EQ(session->selectedHexagon(), 5);
+  EXPECT_TRUE(session->selectHexagon(99).empty());
+  session->clearLetters();
+  EXPECT_EQ(session->clearLetters().status, "No letters to clear");
+}
+
+TEST_F(PlayProgressTest, AProgressFileThatCannotBeWrittenIsReportedOnceAndADamagedOneAtStart) {
+  std::filesystem::create_directory(progressPath(home.folder()));  // a folder where the file should be
+  auto session = run(1);
+  select(*session, 3, 6);
+  session->type('a');
+  const CommandResult failed = session->saveProgress();
+  ASSERT_EQ(failed.messages.size(), 1u);
+  EXPECT_NE(failed.messages[0].text.find(std::string(kProgressFileName)), std::string::npos);
+  EXPECT_TRUE(session->progressUnsaved());
+  session->type('b');
+  EXPECT_TRUE(session->saveProgress().messages.empty());
+  session.reset();
+
+  std::filesystem::remove(progressPath(home.folder()));
+  std::ofstream(progressPath(home.folder()), std::ios::binary) << kProgressHeader << "\r\nentries x\r\n";
+  CommandResult started;
+  run(1, &started);
+  const auto named = std::find_if(started.messages.begin(), started.messages.end(), [](const Message& message) {
+    return message.text.find(std::string(kProgressFileName)) != std::string::npos;
+  });
+  ASSERT_NE(named, started.messages.end());
+  EXPECT_NE(named->text.find("line 2"), std::string::npos) << named->text;
+}
+
+}  // namespace
+}  // namespace combwise
