@@ -73,7 +73,7 @@ void MainWindow::addPlayCommands() {
   add("mnunexthex", "Next &hexagon", [](GameSession& s) { return s.stepHexagon(HexStep::Next); },
       {QKeySequence(Qt::Key_Tab)});
   add("mnuprevioushex", "Pre&vious hexagon", [](GameSession& s) { return s.stepHexagon(HexStep::Previous); },
-      {QKeySequence(Qt::SHIFT | Qt::Key_Backtab), QKeySequence(Qt::SHIFT | Qt::Key_Tab)});
+      {QKeySequence(Qt::SHIFT | Qt::Key_Tab), QKeySequence(Qt::SHIFT | Qt::Key_Backtab)});
 }
 
 void MainWindow::returnKeysToBoard() {
