@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "core/files/dictionary.h"
+#include "core/generator/packedset.h"
 #include "core/generator/wordpool.h"
 #include "core/model/board.h"
 #include "core/model/callbacks.h"
@@ -91,7 +92,11 @@ class PuzzleGenerator {
   const Meanings& m_meanings;
   GeneratorForm m_form;
   std::array<WordPool, 4> m_pools;
-  std::vector<std::uint64_t> m_keyPrefixes;  // packed upper-case prefixes of the anagram keys, sorted
+  PackedSet m_prefixSet;  // packed upper-case prefixes of the anagram keys
+  // The same prefixes as products of their letters' primes, when that is exact.
+  bool m_byProduct = false;
+  std::array<std::uint64_t, 256> m_primeOf{};
+  PackedSet m_productSet;
   std::vector<std::string> m_summary;
   GenerationStats m_stats;
   GenerateEnd m_lastEnd = GenerateEnd::Made;

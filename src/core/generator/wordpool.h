@@ -56,7 +56,7 @@ class WordPool {
   std::unordered_map<std::string, std::vector<int>> m_anagrams;  // sorted letters -> word indexes
   std::vector<std::uint64_t> m_scratch;
   std::vector<std::uint64_t> m_sorted;
-  std::vector<std::size_t> m_bucketStart;
+  std::vector<int> m_next;
   mutable std::vector<int> m_position;  // word index -> pool position
   mutable bool m_positionsValid = false;
 };
