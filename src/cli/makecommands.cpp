@@ -93,6 +93,7 @@ bool readRunOptions(ParsedArgs& parsed, LineRunOptions& options) {
   if (auto seed = parsed.number("--seed", 0, std::numeric_limits<long long>::max()))
     options.seed = static_cast<std::uint64_t>(*seed);
   options.maxTries = kDefaultMaxTries;
+  options.maxWork = kDefaultMaxWork;
   if (auto tries = parsed.number("--max-tries", 1, 1000000000000LL)) options.maxTries = *tries;
   return parsed.error.empty();
 }

@@ -159,6 +159,14 @@ PuzzleGenerator::PuzzleGenerator(const Dictionary& dictionary, const Meanings& m
   }
 }
 
+bool PuzzleGenerator::canGenerate(const Dictionary& dictionary) {
+  for (int length = 3; length <= 6; ++length) {
+    const clsSimpleArray* pool = dictionary.pool(length);
+    if (!pool || pool->ListCount() < 2) return false;
+  }
+  return true;
+}
+
 bool PuzzleGenerator::canGenerate() const {
   return std::all_of(m_pools.begin(), m_pools.end(), [](const WordPool& pool) { return pool.count() >= 2; });
 }
@@ -172,16 +180,22 @@ bool PuzzleGenerator::generate(const Board& board, PuzzleState& state, RandomSou
   m_lastEnd = GenerateEnd::CannotGenerate;
   if (!canGenerate() || board.hexCount() == 0) return false;
   Work work(board);
+  long long poolWords = 0;
+  for (const WordPool& pool : m_pools) poolWords += pool.count();
+  long long workDone = 0;
+  m_stats.lastTries = 0;
   for (long long tries = 1;; ++tries) {
     if (hooks.stop && hooks.stop()) {
       m_lastEnd = GenerateEnd::Stopped;
       return false;
     }
-    if (hooks.maxTries > 0 && tries > hooks.maxTries) {
+    if ((hooks.maxTries > 0 && tries > hooks.maxTries) || (hooks.maxWork > 0 && workDone >= hooks.maxWork)) {
       m_lastEnd = GenerateEnd::GaveUp;
       return false;
     }
     ++m_stats.tries;
+    m_stats.lastTries = tries;
+    workDone += poolWords + kMaxAttempts;
     if (hooks.status) hooks.status("Reset ... " + NumberText(tries));
     if (tryOnce(board, work, random, hooks) && complete(board, work, state)) break;
   }

@@ -23,13 +23,18 @@ WordPool::WordPool(const std::vector<std::string>* words) : m_words(words) {
   std::iota(m_order.begin(), m_order.end(), 0);
 
   // Ranks by the case-ignoring order; words equal but for case share one.
+  // The upper-cased texts are made once, not in every comparison.
+  std::vector<std::string> upper;
+  upper.reserve(words->size());
+  for (const std::string& word : *words) upper.push_back(toUpper(word));
   std::vector<int> byWord = m_order;
-  std::stable_sort(byWord.begin(), byWord.end(),
-                   [words](int a, int b) { return SortedKeyList::less((*words)[a], (*words)[b]); });
+  std::stable_sort(byWord.begin(), byWord.end(), [&upper](int a, int b) {
+    return upper[static_cast<std::size_t>(a)] < upper[static_cast<std::size_t>(b)];
+  });
   m_rank.assign(static_cast<std::size_t>(n), 0);
   std::uint32_t rank = 0;
   for (int i = 0; i < n; ++i) {
-    if (i > 0 && SortedKeyList::less((*words)[byWord[i - 1]], (*words)[byWord[i]])) ++rank;
+    if (i > 0 && upper[static_cast<std::size_t>(byWord[i - 1])] != upper[static_cast<std::size_t>(byWord[i])]) ++rank;
     m_rank[static_cast<std::size_t>(byWord[i])] = rank;
   }
   for (int i = 0; i < n; ++i) m_anagrams[sortedLetters((*words)[static_cast<std::size_t>(i)])].push_back(i);
