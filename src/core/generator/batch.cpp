@@ -59,6 +59,7 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
     };
     hooks.maxTries = options.maxTries;
     hooks.maxWork = options.maxWork;
+    hooks.distinct = options.distinct;
     for (;;) {
       int index = 0;
       {

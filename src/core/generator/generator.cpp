@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "core/generator/distinct.h"
 #include "core/generator/letters.h"
 #include "core/model/text.h"
 
@@ -197,9 +198,14 @@ bool PuzzleGenerator::generate(const Board& board, PuzzleState& state, RandomSou
     m_stats.lastTries = tries;
     workDone += poolWords + kMaxAttempts;
     if (hooks.status) hooks.status("Reset ... " + NumberText(tries));
-    if (tryOnce(board, work, random, hooks) && complete(board, work, state)) break;
+    if (!tryOnce(board, work, random, hooks) || !complete(board, work, state)) continue;
+    if (!hooks.distinct) {
+      attachClues(state, m_meanings, random);
+      break;
+    }
+    // A puzzle with a repeat counts as a failed try.
+    if (!hasRepeatedWord(state) && attachDistinctClues(state, m_meanings, random)) break;
   }
-  attachClues(state, m_meanings, random);
   m_lastEnd = GenerateEnd::Made;
   return true;
 }

@@ -40,6 +40,10 @@ struct GeneratorHooks {
   // far more than tries of the game's, so the try bound alone can leave a
   // hopeless search running for hours; this one ends it in seconds.
   long long maxWork = 0;
+  // No word twice and no clue text twice in a puzzle: the puzzles made are
+  // those made without this, less the ones with a repeat. A repeated clue
+  // takes another meaning of its word first.
+  bool distinct = false;
 };
 
 // Tries that the game's own dictionary never needs for one puzzle of any
