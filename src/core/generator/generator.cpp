@@ -232,7 +232,7 @@ bool PuzzleGenerator::tryOnce(const Board& board, Work& work, RandomSource& rand
       int n = work.outsideCount[hex];
       const std::size_t p = static_cast<std::size_t>(n - 3);
       char shuffled[kShuffleCapacity];
-      shuffleLettersInto(m_pools[p].at(++work.cursor[p]), random, shuffled);
+      shuffleLettersInto(m_pools[p].candidate(++work.cursor[p]), random, shuffled);
       // The shuffled word is laid from its last letter to its first.
       for (std::size_t k = 0; k < Board::kRing && n > 0; ++k) {
         if (const std::size_t at = work.outside[hex][k]) work.letters[at] = shuffled[--n];

@@ -37,6 +37,15 @@ WordPool::WordPool(const std::vector<std::string>* words) : m_words(words) {
     if (i > 0 && upper[static_cast<std::size_t>(byWord[i - 1])] != upper[static_cast<std::size_t>(byWord[i])]) ++rank;
     m_rank[static_cast<std::size_t>(byWord[i])] = rank;
   }
+  if (std::all_of(words->begin(), words->end(), [](const std::string& w) { return w.size() <= kCompactStride; })) {
+    m_compact.assign(words->size() * kCompactStride, 0);
+    m_compactLength.resize(words->size());
+    for (std::size_t i = 0; i < words->size(); ++i) {
+      std::copy((*words)[i].begin(), (*words)[i].end(),
+                m_compact.begin() + static_cast<std::ptrdiff_t>(i * kCompactStride));
+      m_compactLength[i] = static_cast<unsigned char>((*words)[i].size());
+    }
+  }
   for (int i = 0; i < n; ++i) m_anagrams[sortedLetters((*words)[static_cast<std::size_t>(i)])].push_back(i);
 }
 
@@ -79,24 +88,27 @@ void WordPool::shuffleStraightforward(RandomSource& random) {
 // a stable sort by key alone orders them by key, then old position; two
 // counting passes over the key's low and high bits do that in linear time
 // without a single unpredictable branch. Only words that drew the same key
-// (a few dozen in thousands) are then put in word order, which comes before
-// the old position.
+// (a few dozen in thousands) are then put in word order, stably, since the
+// old position comes last.
 void WordPool::shuffleFast(RandomSource& random) {
   const std::size_t n = m_order.size();
   if (n == 0) return;
   constexpr unsigned kLowBits = 9;
   constexpr std::uint32_t kLowMask = (1u << kLowBits) - 1;
   constexpr std::size_t kHighBuckets = (static_cast<std::size_t>(kKeySpan) >> kLowBits) + 1;
+  constexpr std::uint64_t kWordMask = 0xffffffffu;
 
   std::array<std::uint32_t, kLowMask + 2> low{};
   std::array<std::uint32_t, kHighBuckets + 1> high{};
   m_scratch.resize(n);
   m_sorted.resize(n);
+  // Each value is the drawn key above the word's index.
   std::uint64_t* values = m_scratch.data();
+  const int* order = m_order.data();
   std::size_t i = 0;
   random.forEachDraw(n, [&](double draw) {
     const auto key = static_cast<std::uint32_t>(draw * kKeySpan + 1);  // positive, so truncation is the floor
-    values[i] = (static_cast<std::uint64_t>(key) << 32) | i;
+    values[i] = (static_cast<std::uint64_t>(key) << 32) | static_cast<std::uint32_t>(order[i]);
     ++i;
     ++low[(key & kLowMask) + 1];
     ++high[(key >> kLowBits) + 1];
@@ -107,24 +119,17 @@ void WordPool::shuffleFast(RandomSource& random) {
   for (std::size_t k = 0; k < n; ++k) byLow[low[(values[k] >> 32) & kLowMask]++] = values[k];
   for (std::size_t k = 0; k < n; ++k) values[high[byLow[k] >> (32 + kLowBits)]++] = byLow[k];
 
-  // Runs of one key: by word order, then old position.
-  const int* order = m_order.data();
   for (std::size_t k = 1; k < n; ++k) {
     if ((values[k] >> 32) != (values[k - 1] >> 32)) continue;
-    std::size_t first = k - 1;
+    const std::size_t first = k - 1;
     std::size_t last = k + 1;
     while (last < n && (values[last] >> 32) == (values[first] >> 32)) ++last;
-    std::sort(values + first, values + last, [&](std::uint64_t a, std::uint64_t b) {
-      const std::uint32_t rankA = m_rank[static_cast<std::size_t>(order[a & 0xffffffffu])];
-      const std::uint32_t rankB = m_rank[static_cast<std::size_t>(order[b & 0xffffffffu])];
-      return rankA != rankB ? rankA < rankB : a < b;
+    std::stable_sort(values + first, values + last, [this](std::uint64_t a, std::uint64_t b) {
+      return m_rank[static_cast<std::size_t>(a & kWordMask)] < m_rank[static_cast<std::size_t>(b & kWordMask)];
     });
     k = last - 1;
   }
-
-  m_next.resize(n);
-  for (std::size_t k = 0; k < n; ++k) m_next[k] = order[values[k] & 0xffffffffu];
-  m_order.swap(m_next);
+  for (std::size_t k = 0; k < n; ++k) m_order[k] = static_cast<int>(values[k] & kWordMask);
 }
 
 const std::vector<int>& WordPool::positions() const {
