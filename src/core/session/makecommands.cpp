@@ -38,6 +38,7 @@ CommandResult GameSession::create() {
     hooks.stop = [this] { return m_cancelRequested; };
     hooks.maxTries = kDefaultMaxTries;  // a dictionary that cannot make the size says so
     hooks.maxWork = kDefaultMaxWork;    // within seconds, however long the dictionary
+    hooks.distinct = m_extraOptions.noWordTwice;
     made = m_maker.create(size, m_settings.dictionaryPath, meaningsPath(), m_random, hooks, kTemporaryPuzzleFile);
   }
   if (made.created()) {
@@ -120,6 +121,7 @@ CommandResult GameSession::makeBatch(const std::function<void(int made)>& progre
     if (progress) progress(0);
     LineRunOptions options;
     options.count = m_batchCount;
+    options.distinct = m_extraOptions.noWordTwice;
     made = maker.runBatch(
         m_programFolder, options,
         [this, &progress](int count) {
