@@ -216,11 +216,17 @@ class TestPlay : public QObject {
     QCOMPARE(clues->highlightedHexagon(), 3);
   }
 
-  void aSolvedPuzzleShowsItsMarkAndTheTimerStops() {
+  void theTimerPausesWhileMinimisedAndASolvedPuzzleShowsItsMark() {
     Game game(2);
     QVERIFY(game.start());
     auto* timer = game.find<QLabel>("lbltimer");
     QVERIFY(timer->text().startsWith("0:0"));
+    QVERIFY(game.window->session().timerRunning());
+    game.window->showMinimized();
+    QTRY_VERIFY(!game.window->session().timerRunning());
+    game.window->showNormal();
+    game.window->activateWindow();
+    QTRY_VERIFY(game.window->session().timerRunning());
     revealHexagons(*game.window, game.window->board().hexCount());
     BoxControl* verify = game.find<BoxControl>("cmdverify");
     QTest::mousePress(verify, Qt::LeftButton);
