@@ -126,8 +126,10 @@ class GameSession {
   CommandResult setExtraOptions(bool cleanBoardEachPuzzle, bool noWordTwice);
   // The clock of the puzzle timer (tests drive it by hand).
   void setClock(PuzzleTimer::Clock clock) { m_timer = PuzzleTimer(std::move(clock)); }
-  // Where a file of the player's own (progress, play options) is kept.
-  std::string playerFilePath(std::string_view name) const { return m_programFolder + std::string(name); }
+  // Where a file of the player's own (progress, play options) is read and
+  // written: the program folder, or the user's folder when that one cannot
+  // be written.
+  std::string playerFilePath(std::string_view name) const;
 
   // --- Making puzzles and the collection tools (makecommands.cpp) ---
   // The size label's click: the next size of 7, 10, 17, 22.

@@ -42,6 +42,12 @@ void GameSession::loadPlayerFiles(CommandResult& result) {
   reportProblems(options.problems, result);
 }
 
+std::string GameSession::playerFilePath(std::string_view name) const {
+  // Nothing of the player's ships with the program, so the place it is
+  // written is also the place to read it from.
+  return ProgramFiles(m_programFolder, userFolders()).writePath(name);
+}
+
 bool GameSession::keepsProgress() const {
   return !m_shownCollection.empty() && fileNameOf(m_shownCollection) != kTemporaryPuzzleFile;
 }
