@@ -76,6 +76,9 @@ void addStripped(std::vector<std::string>& roots, const std::string& w, bool bar
     if (ending.front() == 'i' && (ending == "ies" || ending == "ied" || ending == "ier" || ending == "iest" ||
                                   ending == "ily" || ending == "iness"))
       root += 'y';
+    // "wiper" and "wipes" both come from "wipe".
+    const bool vowelEnding = std::string_view("aeiou").find(ending.front()) != std::string_view::npos;
+    if (vowelEnding && root.size() >= 3 && !isVowel(root.back()) && root.back() != 'y') addUnique(roots, root + 'e');
     addUnique(roots, std::move(root));
   };
   for (const std::string_view ending : kEndings) strip(ending);
@@ -146,7 +149,10 @@ bool sharesRoot(std::string_view word, std::string_view other) {
   const std::vector<std::string> otherRoots = roots(other, true);
   for (const std::string& root : wordRoots) {
     if (!contains(otherRoots, root)) continue;
-    if (root.size() < 4 && root != word) continue;
+    // A three-letter root is too often a chance likeness ("rats" and
+    // "ration"), unless it is the word itself or both words are long enough
+    // to be built on it ("active" and "action").
+    if (root.size() < 4 && root != word && (word.size() < 6 || other.size() < 6)) continue;
     // "plan" is no relative of "plane", nor "car" of "care".
     if (root == other && !contains(roots(word, false), root)) continue;
     if (root == word && !contains(roots(other, false), root)) continue;
@@ -156,13 +162,20 @@ bool sharesRoot(std::string_view word, std::string_view other) {
 }
 
 bool isCompoundOf(std::string_view word, std::string_view other, const std::function<bool(std::string_view)>& isWord) {
-  if (word.size() < 4 || other.size() < word.size() + 3) return false;
+  if (word.size() < 4 || other.size() < word.size() + 2) return false;
   const auto known = [&](std::string_view part) {
+    if (part.size() < 3) return false;
     if (isWord(part)) return true;
     return part.size() > 3 && part.ends_with('s') && isWord(part.substr(0, part.size() - 1));
   };
-  if (other.starts_with(word) && known(other.substr(word.size()))) return true;
-  return other.ends_with(word) && known(other.substr(0, other.size() - word.size()));
+  // The word or one of its roots: "railway" shows "rails" and "paperlike"
+  // shows "papery".
+  for (const std::string& base : roots(word, false)) {
+    if (base.size() < 4) continue;
+    if (other.starts_with(base) && known(other.substr(base.size()))) return true;
+    if (other.ends_with(base) && known(other.substr(0, other.size() - base.size()))) return true;
+  }
+  return false;
 }
 
 std::string cleanGloss(std::string_view gloss) {

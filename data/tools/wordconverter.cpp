@@ -237,7 +237,7 @@ std::string dropReport(const ConversionCounts& counts) {
   std::string report;
   char row[96];
   const auto add = [&](std::string_view what, int count) {
-    std::snprintf(row, sizeof row, "%-42.*s %6d\n", static_cast<int>(what.size()), what.data(), count);
+    std::snprintf(row, sizeof row, "%-46.*s %6d\n", static_cast<int>(what.size()), what.data(), count);
     report += row;
   };
   add("candidate words", counts.candidates);
