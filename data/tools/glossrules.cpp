@@ -52,7 +52,8 @@ void addForm(std::vector<std::string>& forms, std::string form) {
 }
 
 // Endings that make relatives of a word: inflections and the common
-// derivational suffixes, longest first so that "ation" is tried before "ion".
+// derivational suffixes. Every ending that fits is taken off in turn, so
+// "admiration" gives "admir" (-ation) as well as "admirat" (-ion).
 constexpr std::string_view kEndings[] = {
     "ations", "ically", "ively", "iness", "ation", "ition", "tions", "sions", "ments", "ivity", "ities",
     "ously",  "iest",   "ions",  "tion",  "sion",  "ment",  "ness",  "ists",  "isms",  "able",  "ably",
@@ -141,8 +142,8 @@ std::vector<std::string> lowerWords(std::string_view text) {
 }
 
 bool sharesRoot(std::string_view word, std::string_view other) {
-  // Every root is a prefix of its word but for its last letter, and no
-  // root is shorter than three letters: most pairs end here.
+  // A root that counts has three letters or more, of which at least the
+  // first two begin its word: most pairs end here.
   if (word.size() < 3 || other.size() < 3 || word.substr(0, 2) != other.substr(0, 2)) return false;
   if (word == other) return true;
   const std::vector<std::string> wordRoots = roots(word, true);
@@ -152,7 +153,7 @@ bool sharesRoot(std::string_view word, std::string_view other) {
     // A three-letter root is too often a chance likeness ("rats" and
     // "ration"), unless it is the word itself or both words are long enough
     // to be built on it ("active" and "action").
-    if (root.size() < 4 && root != word && (word.size() < 6 || other.size() < 6)) continue;
+    if (root.size() < 3 || (root.size() < 4 && root != word && (word.size() < 6 || other.size() < 6))) continue;
     // "plan" is no relative of "plane", nor "car" of "care".
     if (root == other && !contains(roots(word, false), root)) continue;
     if (root == word && !contains(roots(other, false), root)) continue;
