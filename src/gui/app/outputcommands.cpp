@@ -143,7 +143,7 @@ void OutputCommands::printFileCommand() {
 
 void OutputCommands::printToPdf(int first, int last) {
   const QString chosen = m_window.fileChooser().chooseFile(
-      {"Save as PDF", "*.pdf", "PDF Files", text(m_window.programFolder()), "SAVE", {}});
+      {"Save as PDF", "*.pdf", "PDF Files", text(m_window.session().saveFolder()), "SAVE", {}});
   if (chosen.trimmed().isEmpty()) return;
   const QString path = text(withDefaultExtension(chosen.toStdString(), kPdfExtension));
   if (nonEmptyFile(path.toStdString()) && !m_window.prompter().confirm("OverWrite file: " + path + " ?")) return;
@@ -167,7 +167,7 @@ void OutputCommands::cluesToTextFile() {
       m_window.fileChooser().chooseFile({"Select output file",
                                          "*.txt",
                                          m_banner.productName.empty() ? "Files" : text(m_banner.productName + " Files"),
-                                         text(m_window.programFolder()),
+                                         text(m_window.session().saveFolder()),
                                          "SAVE",
                                          {}});
   if (chosen.trimmed().isEmpty()) return;
