@@ -118,8 +118,11 @@ void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last) 
     outcome = PrintPuzzleRange(target, first, last, state.PuzzleCount, load, false, letEventsRun);
     m_window.showPuzzle(path, shownBefore);
   }
-  if (!outcome.opened) {
-    m_window.prompter().ShowMessage("Cannot print to " + target.printerName(), "vbok+vbcritical");
+  // A file that could not be written in full says why (it is not left behind).
+  if (!outcome.opened || !outcome.written) {
+    const std::string why = target.error();
+    m_window.prompter().ShowMessage(why.empty() ? "Cannot print to " + target.printerName() : text(why),
+                                    "vbok+vbcritical");
     return;
   }
   m_window.prompter().ShowMessage(text(NumberText(outcome.printed)) + " puzzles printed", "vbinformation+vbok");
