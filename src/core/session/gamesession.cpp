@@ -113,6 +113,7 @@ CommandResult GameSession::startStep() {
       m_puzzle.CollectionPath = *collection;
       m_puzzle.PuzzleNumber = number;
       result.status = "Error reading puzzle";
+      result.redraw |= Redraw::Puzzle;  // the counter and the file name show where it stands
     } else {
       // A stored number beyond the collection starts with an empty board.
       m_puzzle.PuzzleNumber = 0;
