@@ -43,9 +43,12 @@ TEST(CliCreate, ASeedGivesTheSameFileWhateverTheJobsAndRunsAppend) {
   const std::string one = temp.file("one.txt");
   const std::string two = temp.file("two.txt");
   for (int round = 1; round <= 2; ++round) {
-    EXPECT_EQ(cli({"create", "--size", "10", "--count", "5", "--seed", "77", "--jobs", "1", "--output", one}).status,
+    EXPECT_EQ(
+        cli({"create", "--size", "10", "--count", "5", "--seed", "77", "--jobs", "1", "--distinct", "--output", one})
+            .status,
+        0);
+    EXPECT_EQ(cli({"create", "--size=10", "--count=5", "--seed=77", "--jobs=2", "--distinct", "--output", two}).status,
               0);
-    EXPECT_EQ(cli({"create", "--size=10", "--count=5", "--seed=77", "--jobs=2", "--output", two}).status, 0);
   }
   EXPECT_EQ(TempFolder::contentOf(one), TempFolder::contentOf(two));
   // The second run makes the same five again: each puzzle depends on its seed and number only.
@@ -169,7 +172,8 @@ TEST(CliCreate, ADictionaryThatCannotMakeTheSizeStopsAtMaxTriesAndAppendsNothing
 TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
   TempFolder temp;
   const std::string collection = temp.file("set.txt");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "1", "--seed", "5", "--output", collection}).status, 0);
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "1", "--seed", "5", "--distinct", "--output", collection}).status,
+            0);
   std::string good = (*readLines(collection))[0];
   std::string swapped = good;
   const auto letter = swapped.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ");

@@ -41,6 +41,7 @@ CommandResult GameSession::create() {
     hooks.events = [this] { m_host.pumpEvents(); };
     hooks.stop = [this] { return m_cancelRequested; };
     hooks.maxTries = kDefaultMaxTries;  // a dictionary that cannot make the size says so
+    hooks.maxWork = kDefaultMaxWork;    // within seconds, however long the dictionary
     // The temporary puzzle lies in the working folder, or in the user's
     // folder of an installed program.
     const std::string temporary =
