@@ -1,5 +1,7 @@
 // The collection commands: open a collection, save the current puzzle into
 // one, browse with the arrows, reopen a recent file, and exit.
+#include <filesystem>
+
 #include "core/files/browsing.h"
 #include "core/files/textfile.h"
 #include "core/model/text.h"
@@ -105,7 +107,11 @@ CommandResult GameSession::openRecent(int index) {
   const std::string path = m_settings.recentFiles[static_cast<std::size_t>(index)].path;
   if (trimmed(path).empty()) return result;
   if (!nonEmptyFile(path)) {
-    result.messages.push_back({"File does not exist:\n" + path, "vbok+vbcritical"});
+    // Something there that cannot be read (a pipe, a folder) says what it is.
+    const auto reason = unreadableReason(path);
+    std::error_code ignored;
+    const bool there = std::filesystem::exists(path, ignored);
+    result.messages.push_back({there && reason ? *reason : "File does not exist:\n" + path, "vbok+vbcritical"});
     return result;
   }
   {

@@ -177,6 +177,12 @@ TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
   EXPECT_THAT(*piped.statusTip, HasSubstr("not a regular file"));
   EXPECT_THAT(*piped.statusTip, HasSubstr(pipe));
   EXPECT_EQ(session.puzzle().CollectionPath, damaged);
+  // A recent file that has become a pipe says so rather than that it is missing.
+  std::filesystem::remove(damaged);
+  ASSERT_EQ(::mkfifo(damaged.c_str(), 0600), 0);
+  const CommandResult recent = session.openRecent(0);
+  ASSERT_EQ(recent.messages.size(), 1u);
+  EXPECT_THAT(recent.messages[0].text, HasSubstr("not a regular file"));
 }
 
 TEST_F(SessionFilesTest, ADamagedFirstPuzzleAtStartKeepsTheCollectionReachable) {
