@@ -92,7 +92,9 @@ class TestOptions : public QObject {
     QCOMPARE(form.picker()->BackColor(), QColor(32, 30, 36));
     QVERIFY(m_prompter.notices.isEmpty());
     form.chooseScheme("gone");
-    QCOMPARE(m_prompter.notices, QStringList{"Color Scheme: gone.col not found"});
+    // The notice names the scheme file that lacks it.
+    QCOMPARE(m_prompter.notices,
+             QStringList{"Color Scheme: gone.col not found\n" + folder() + "all.col holds no scheme gone.col"});
     QCOMPARE(form.picker()->BackColor(), QColor(0, 0, 0));
     QCOMPARE(m_scheme, ColourScheme{});  // the window's scheme waits for Apply
   }

@@ -116,6 +116,36 @@ class TestOutput : public QObject {
     QCOMPARE(game.window->layout().CellWidth, cellWidth);
   }
 
+  void aFileThatCannotBeWrittenInFullSaysWhyInsteadOfCountingPages() {
+    // Draws as a file would, then fails at the end as on a full disk.
+    class FullDisk : public PrintTarget {
+     public:
+      QString printerName() const override { return "full.pdf"; }
+      QString choosePrinter(QWidget*) override { return {}; }
+      QPainter* beginDocument() override {
+        m_painter = std::make_unique<QPainter>(&m_page);
+        return m_painter.get();
+      }
+      bool newPage() override { return true; }
+      bool endDocument() override {
+        m_painter.reset();
+        return false;
+      }
+      std::string error() const override { return "Cannot write D/full.pdf: No space left on device"; }
+
+     private:
+      QImage m_page{200, 300, QImage::Format_RGB32};
+      std::unique_ptr<QPainter> m_painter;
+    };
+    Game game;
+    QVERIFY(game.start());
+    FullDisk target;
+    game.output->printPuzzleRange(target, 1, 2);
+    QCOMPARE(game.prompter.messages.last().prompt, QString("Cannot write D/full.pdf: No space left on device"));
+    QCOMPARE(game.prompter.messages.last().style, QString("vbok+vbcritical"));
+    QCOMPARE(game.window->puzzle().PuzzleNumber, 2);
+  }
+
   void thePrintWindowsRangeCanGoToAPdfFile() {
     Game game;
     QVERIFY(game.start());

@@ -118,8 +118,11 @@ void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last) 
     outcome = PrintPuzzleRange(target, first, last, state.PuzzleCount, load, false, letEventsRun);
     m_window.showPuzzle(path, shownBefore);
   }
-  if (!outcome.opened) {
-    m_window.prompter().ShowMessage("Cannot print to " + target.printerName(), "vbok+vbcritical");
+  // A file that could not be written in full says why (it is not left behind).
+  if (!outcome.opened || !outcome.written) {
+    const std::string why = target.error();
+    m_window.prompter().ShowMessage(why.empty() ? "Cannot print to " + target.printerName() : text(why),
+                                    "vbok+vbcritical");
     return;
   }
   m_window.prompter().ShowMessage(text(NumberText(outcome.printed)) + " puzzles printed", "vbinformation+vbok");
@@ -143,7 +146,7 @@ void OutputCommands::printFileCommand() {
 
 void OutputCommands::printToPdf(int first, int last) {
   const QString chosen = m_window.fileChooser().chooseFile(
-      {"Save as PDF", "*.pdf", "PDF Files", text(m_window.programFolder()), "SAVE", {}});
+      {"Save as PDF", "*.pdf", "PDF Files", text(m_window.session().saveFolder()), "SAVE", {}});
   if (chosen.trimmed().isEmpty()) return;
   const QString path = text(withDefaultExtension(chosen.toStdString(), kPdfExtension));
   if (nonEmptyFile(path.toStdString()) && !m_window.prompter().confirm("OverWrite file: " + path + " ?")) return;
@@ -167,7 +170,7 @@ void OutputCommands::cluesToTextFile() {
       m_window.fileChooser().chooseFile({"Select output file",
                                          "*.txt",
                                          m_banner.productName.empty() ? "Files" : text(m_banner.productName + " Files"),
-                                         text(m_window.programFolder()),
+                                         text(m_window.session().saveFolder()),
                                          "SAVE",
                                          {}});
   if (chosen.trimmed().isEmpty()) return;

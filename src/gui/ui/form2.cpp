@@ -238,7 +238,7 @@ void Form2::chooseScheme(const QString& name) {
     // A scheme chosen here brings its own button colour.
     m_pending[ColourScheme::kButtonOverride] = 0;
   } else {
-    m_prompter.notify(QString::fromStdString(load.message));
+    m_prompter.notify(QString::fromStdString(load.detail.empty() ? load.message : load.message + "\n" + load.detail));
   }
   m_picker->setBackColor(toQColor(load.colour));
 }
