@@ -2,6 +2,7 @@
 // tool use, and how the tests print without a printer.
 #pragma once
 
+#include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
 #include <memory>
@@ -12,8 +13,9 @@ namespace combwise {
 
 class PdfTarget : public PrintTarget {
  public:
-  // A4 pages at `resolution` dots per inch, drawn from the paper's edge.
-  explicit PdfTarget(QString path, int resolution = 600);
+  // Pages of `paper` (A4 unless told) at `resolution` dots per inch, drawn
+  // from the paper's edge.
+  explicit PdfTarget(QString path, QPageSize::PageSizeId paper = QPageSize::A4, int resolution = 600);
   ~PdfTarget() override;
 
   QString printerName() const override;
@@ -26,6 +28,7 @@ class PdfTarget : public PrintTarget {
 
  private:
   QString m_path;
+  QPageSize::PageSizeId m_paper;
   int m_resolution;
   std::unique_ptr<QPdfWriter> m_writer;
   std::unique_ptr<QPainter> m_painter;

@@ -4,6 +4,7 @@
 // commands and the command-line tool never need a human at a print dialog.
 #pragma once
 
+#include <QMarginsF>
 #include <QString>
 
 class QPainter;
@@ -29,6 +30,9 @@ class PrintTarget {
   virtual bool newPage() = 0;
   // Ends the document, which sends it to the printer or writes the file.
   virtual bool endDocument() = 0;
+
+  // How far in from the paper's edges the device can print, in twips.
+  virtual QMarginsF printableMargins() const { return {}; }
 };
 
 }  // namespace combwise

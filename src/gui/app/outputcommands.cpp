@@ -157,7 +157,7 @@ void OutputCommands::printClues() {
   PrintTarget& target = printer();
   QPainter* painter = target.beginDocument();
   if (!painter) return;
-  PrintClueList(*painter, currentPage(), kClueListLeft, kClueListTop);
+  PrintClueList(*painter, currentPage(), kClueListLeft, kClueListTop, [&target] { target.newPage(); });
   target.endDocument();
 }
 

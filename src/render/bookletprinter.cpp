@@ -1,0 +1,138 @@
+// Draws the booklet's pages.
+#include "render/bookletprinter.h"
+
+#include <QPainter>
+#include <deque>
+
+#include "core/model/board.h"
+#include "core/model/puzzlestate.h"
+#include "render/boardpainter.h"
+
+namespace combwise {
+namespace {
+
+constexpr double kKeyLetterPoints = 6.5;  // key boards stay readable however small
+
+// A puzzle kept for the whole booklet: the pages are laid out once all
+// are loaded, and the keys come back to them at the end.
+struct KeptPuzzle {
+  Board board;
+  PuzzleState state;
+  PrintLook look;
+  PagePuzzle page() const { return {board, state, look}; }
+};
+
+BookletPuzzle cluesOf(const PuzzleState& state, const Board& board) {
+  BookletPuzzle puzzle{state.PuzzleNumber, board.rows(), board.cols(), {}, {}};
+  for (int h = 1; h <= board.hexCount() && 2 * h <= PuzzleState::kMaxSlots; ++h) {
+    puzzle.inside.push_back(state.ClueTexts[static_cast<std::size_t>(2 * h)]);
+    puzzle.outside.push_back(state.ClueTexts[static_cast<std::size_t>(2 * h - 1)]);
+  }
+  return puzzle;
+}
+
+struct Faces {
+  QFont title{"Arial"};
+  QFont heading{"Arial"};
+  QFont clue{"Arial"};
+  QFont label{"Arial"};
+  QFont footer{"Arial"};
+
+  Faces() {
+    title.setPointSizeF(12);
+    title.setBold(true);
+    heading.setPointSizeF(11);
+    heading.setBold(true);
+    clue.setPointSizeF(10.5);
+    label.setPointSizeF(10);
+    label.setBold(true);
+    footer.setPointSizeF(8);
+  }
+  const QFont& of(BookletFont face) const {
+    switch (face) {
+      case BookletFont::Title:
+        return title;
+      case BookletFont::Heading:
+        return heading;
+      case BookletFont::Label:
+        return label;
+      case BookletFont::Footer:
+        return footer;
+      case BookletFont::Clue:
+        break;
+    }
+    return clue;
+  }
+};
+
+void drawText(QPainter& painter, Twips twips, const BookletText& text, const QFont& font) {
+  painter.setFont(font);
+  const QFontMetricsF metrics(font, painter.device());
+  const QString line = QString::fromStdString(text.text);
+  double x = text.x / twips.perPixelX;
+  if (text.align == BookletAlign::Right) x -= metrics.horizontalAdvance(line);
+  if (text.align == BookletAlign::Centre) x -= metrics.horizontalAdvance(line) / 2;
+  painter.drawText(QPointF(x, text.y / twips.perPixelY + metrics.ascent()), line);
+}
+
+}  // namespace
+
+RangeOutcome PrintBooklet(PrintTarget& target, int first, int last, int count, const PageLoader& load,
+                          const QString& title, const std::function<void()>& events) {
+  RangeOutcome outcome;
+  std::deque<KeptPuzzle> kept;  // stable addresses for the pages' references
+  std::vector<BookletPuzzle> puzzles;
+  for (int n = std::max(first, 1); n <= last && n <= count; ++n) {
+    if (const std::optional<PagePuzzle> page = load(n)) {
+      kept.push_back({page->board, page->state, page->look});
+      puzzles.push_back(cluesOf(page->state, page->board));
+    }
+    if (events) events();
+  }
+  QPainter* painter = target.beginDocument();
+  if (!painter) return outcome;
+  outcome.opened = true;
+
+  const Twips twips = Twips::of(*painter->device());
+  const QMarginsF margins = target.printableMargins();
+  const BookletPaper paper =
+      bookletPaper(painter->device()->width() * twips.perPixelX, painter->device()->height() * twips.perPixelY,
+                   margins.left(), margins.top(), margins.right(), margins.bottom());
+  const Faces faces;
+  const auto height = [&](BookletFont face) {
+    return QFontMetricsF(faces.of(face), painter->device()).height() * twips.perPixelY;
+  };
+  const QtTextMeasure clueMeasure(faces.clue, painter->device(), twips);
+  const BookletFaces measures{clueMeasure,
+                              height(BookletFont::Title),
+                              height(BookletFont::Heading),
+                              height(BookletFont::Clue),
+                              height(BookletFont::Label),
+                              height(BookletFont::Footer)};
+  const std::vector<BookletPage> pages = layOutBooklet(puzzles, paper, measures, title.toStdString());
+
+  painter->setRenderHint(QPainter::TextAntialiasing, true);
+  for (std::size_t p = 0; p < pages.size(); ++p) {
+    if (p > 0) target.newPage();
+    const BookletPage& page = pages[p];
+    painter->save();
+    painter->setPen(QPen(Qt::black, std::max(1.0, 15 / twips.perPixelY)));
+    const double ruleY = page.headerRule / twips.perPixelY;
+    painter->drawLine(QPointF(paper.printable.x / twips.perPixelX, ruleY),
+                      QPointF(paper.printable.right() / twips.perPixelX, ruleY));
+    for (const BookletText& text : page.texts) drawText(*painter, twips, text, faces.of(text.font));
+    painter->restore();
+    for (const BookletBoard& board : page.boards) {
+      // The grid starts half a cell in: the outline reaches that far left.
+      const double left = board.box.x + kPrintCellWidth * board.scale / 2;
+      PrintBoardAt(*painter, kept[board.puzzle].page(), left, board.box.y, board.scale,
+                   board.solved ? LetterMode::Solution : LetterMode::Sheet, board.solved ? kKeyLetterPoints : 0);
+    }
+    if (events) events();
+  }
+  outcome.printed = static_cast<int>(puzzles.size());
+  target.endDocument();
+  return outcome;
+}
+
+}  // namespace combwise
