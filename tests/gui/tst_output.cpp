@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QProcess>
+#include <QTimer>
 #include <QtTest>
 #include <memory>
 
@@ -281,8 +282,24 @@ class TestOutput : public QObject {
     QVERIFY(!QFile::exists(batch));
     QVERIFY(game.prompter.notices.isEmpty());
 
+    // While the batch runs, its window shows the count, and the status
+    // line does not stay on reading the word files.
+    bool shown = false;
+    QStringList statuses;
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, [&] {
+      const auto* progress = game.window->findChild<QWidget*>("batchprogress");
+      const auto* count = game.window->findChild<QLabel*>("lblbatchcount");
+      if (!progress || !count || count->text() == "Puzzles made: 0") return;
+      shown = shown || progress->isVisible();
+      statuses << game.window->statusText();
+    });
+    watch.start(0);
     game.prompter.answers.enqueue(kMsgYes);
     game.trigger("mnubatch");
+    watch.stop();
+    QVERIFY(shown);
+    QVERIFY2(!statuses.isEmpty() && !statuses.contains("Reading Meanings file ..."), qPrintable(statuses.join('|')));
     QCOMPARE(game.prompter.notices, QStringList{"done"});
     QFile made(batch);
     QVERIFY(made.open(QIODevice::ReadOnly));
