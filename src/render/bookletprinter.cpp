@@ -22,8 +22,34 @@ struct KeptPuzzle {
   PagePuzzle page() const { return {board, state, look}; }
 };
 
+// The cells a board's drawing spans: each hexagon from its top-left cell
+// three cells across and two down, its outline reaching half a cell out
+// on either side.
+struct Span {
+  double left = 0;  // in cells from the grid's left edge
+  double top = 0;
+  double across = 0;
+  double down = 0;
+};
+
+Span spanOf(const Board& board) {
+  if (board.hexCount() == 0) return {0, 0, 1, 1};
+  double left = 1e9;
+  double right = -1e9;
+  double top = 1e9;
+  double bottom = -1e9;
+  for (int h = 1; h <= board.hexCount(); ++h) {
+    left = std::min(left, board.HexCol(h) - 1.5);
+    right = std::max(right, board.HexCol(h) + 2.5);
+    top = std::min(top, board.HexRow(h) - 1.0);
+    bottom = std::max(bottom, board.HexRow(h) + 1.0);
+  }
+  return {left, top, right - left, bottom - top};
+}
+
 BookletPuzzle cluesOf(const PuzzleState& state, const Board& board) {
-  BookletPuzzle puzzle{state.PuzzleNumber, board.rows(), board.cols(), {}, {}};
+  const Span span = spanOf(board);
+  BookletPuzzle puzzle{state.PuzzleNumber, span.across, span.down, {}, {}};
   for (int h = 1; h <= board.hexCount() && 2 * h <= PuzzleState::kMaxSlots; ++h) {
     puzzle.inside.push_back(state.ClueTexts[static_cast<std::size_t>(2 * h)]);
     puzzle.outside.push_back(state.ClueTexts[static_cast<std::size_t>(2 * h - 1)]);
@@ -123,9 +149,13 @@ RangeOutcome PrintBooklet(PrintTarget& target, int first, int last, int count, c
     for (const BookletText& text : page.texts) drawText(*painter, twips, text, faces.of(text.font));
     painter->restore();
     for (const BookletBoard& board : page.boards) {
-      // The grid starts half a cell in: the outline reaches that far left.
-      const double left = board.box.x + kPrintCellWidth * board.scale / 2;
-      PrintBoardAt(*painter, kept[board.puzzle].page(), left, board.box.y, board.scale,
+      // The grid's corner lies where the board's drawing starts, less the
+      // cells left empty above and to the left of it.
+      const KeptPuzzle& puzzle = kept[board.puzzle];
+      const Span span = spanOf(puzzle.board);
+      const double left = board.box.x - span.left * kPrintCellWidth * board.scale;
+      const double top = board.box.y - span.top * kPrintCellHeight * board.scale;
+      PrintBoardAt(*painter, puzzle.page(), left, top, board.scale,
                    board.solved ? LetterMode::Solution : LetterMode::Sheet, board.solved ? kKeyLetterPoints : 0);
     }
     if (events) events();

@@ -87,21 +87,21 @@ BookletPaper bookletPaper(double width, double height, double marginLeft, double
   return paper;
 }
 
-double boardWidth(int cols) { return (cols + 1) * kCellWidth; }
-double boardHeight(int rows) { return rows * kCellHeight; }
+double boardWidth(double across) { return across * kCellWidth; }
+double boardHeight(double down) { return down * kCellHeight; }
 
 int keysPerPage(const std::vector<BookletPuzzle>& puzzles, const BookletPaper& paper, const BookletFaces& faces) {
-  int rows = 0;
-  int cols = 0;
+  double down = 0;
+  double across = 0;
   for (const BookletPuzzle& puzzle : puzzles) {
-    rows = std::max(rows, puzzle.rows);
-    cols = std::max(cols, puzzle.cols);
+    down = std::max(down, puzzle.down);
+    across = std::max(across, puzzle.across);
   }
   const Body body = bodyOf(paper, faces);
   for (const auto& [across, down] : {std::pair{2, 3}, std::pair{2, 2}}) {
     const double cellWidth = (paper.printable.width - kKeyGap * (across - 1)) / across;
     const double cellHeight = (body.height() - kKeyGap * (down - 1)) / down - faces.label;
-    if (std::min(cellWidth / boardWidth(cols), cellHeight / boardHeight(rows)) >= kMinKeyScale) return across * down;
+    if (std::min(cellWidth / boardWidth(across), cellHeight / boardHeight(down)) >= kMinKeyScale) return across * down;
   }
   return 2;
 }
@@ -121,8 +121,8 @@ std::vector<BookletPage> layOutBooklet(const std::vector<BookletPuzzle>& puzzles
     const std::vector<ClueBlock> inside = clueBlocks("Inside clues", puzzle.inside, faces, columnWidth);
     const std::vector<ClueBlock> outside = clueBlocks("Outside clues", puzzle.outside, faces, columnWidth);
     const double clues = std::max(columnHeight(inside), columnHeight(outside));
-    const double width = boardWidth(puzzle.cols);
-    const double height = boardHeight(puzzle.rows);
+    const double width = boardWidth(puzzle.across);
+    const double height = boardHeight(puzzle.down);
     // The board takes the width, or what height the clues leave it; when
     // that makes it too small, the clues go on to the next page.
     double scale = std::min(area.width / width, (body.height() - clues - kBoardGap) / height);
@@ -148,7 +148,16 @@ std::vector<BookletPage> layOutBooklet(const std::vector<BookletPuzzle>& puzzles
       for (std::size_t b = 0; b < blocks.size(); ++b) {
         // A heading stays with its first clue.
         const double needed = blocks[b].height + (b == 0 && blocks.size() > 1 ? blocks[1].height : 0);
-        if (y + needed > body.bottom && y > columnTop) nextColumn();
+        if (y + needed > body.bottom && y > columnTop) {
+          nextColumn();
+          // A list that goes on in a new column says whose clues these are.
+          if (b > 0) {
+            const BookletText& heading = blocks[0].texts[0];
+            pages.back().texts.push_back({area.x + column * (columnWidth + kColumnGap), y,
+                                          heading.text + " (continued)", heading.font, heading.align});
+            y += blocks[0].height;
+          }
+        }
         const double x = area.x + column * (columnWidth + kColumnGap);
         for (const BookletText& text : blocks[b].texts)
           pages.back().texts.push_back({x + text.x, y + text.y, text.text, text.font, text.align});
@@ -177,8 +186,8 @@ std::vector<BookletPage> layOutBooklet(const std::vector<BookletPuzzle>& puzzles
       const double cellY = body.top + (slot / across) * (cellHeight + kKeyGap);
       pages.back().texts.push_back(
           {cellX + cellWidth / 2, cellY, puzzleLabel(puzzle.number), BookletFont::Label, BookletAlign::Centre});
-      const double width = boardWidth(puzzle.cols);
-      const double height = boardHeight(puzzle.rows);
+      const double width = boardWidth(puzzle.across);
+      const double height = boardHeight(puzzle.down);
       const double room = cellHeight - faces.label - 120;
       const double scale = std::min(cellWidth / width, room / height);
       pages.back().boards.push_back(

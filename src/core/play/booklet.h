@@ -48,21 +48,20 @@ struct BookletPaper {
 BookletPaper bookletPaper(double width, double height, double marginLeft = 0, double marginTop = 0,
                           double marginRight = 0, double marginBottom = 0);
 
-// What the layout needs of a puzzle: its number, its grid and its clues
-// (inside[h - 1] and outside[h - 1] belong to hexagon h).
+// What the layout needs of a puzzle: its number, how many print cells its
+// drawn board spans across and down, and its clues (inside[h - 1] and
+// outside[h - 1] belong to hexagon h).
 struct BookletPuzzle {
   int number = 0;
-  int rows = 0;
-  int cols = 0;
+  double across = 0;
+  double down = 0;
   std::vector<std::string> inside;
   std::vector<std::string> outside;
 };
 
-// A board's drawn size at the print cell (500 x 833 twips), scaled by 1:
-// its columns plus one, for the outline's points that reach half a cell
-// out on either side, by its rows.
-double boardWidth(int cols);
-double boardHeight(int rows);
+// A board's drawn size at the print cell (500 x 833 twips), scaled by 1.
+double boardWidth(double across);
+double boardHeight(double down);
 
 enum class BookletFont { Title, Heading, Clue, Label, Footer };
 enum class BookletAlign { Left, Centre, Right };

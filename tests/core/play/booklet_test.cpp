@@ -17,10 +17,10 @@ class WideMeasure : public TextMeasure {
 };
 
 BookletPuzzle puzzle(int number, int size, const std::string& clue) {
-  // The grids of the four sizes.
-  const int rows = size == 7 ? 7 : size == 10 ? 9 : size == 17 ? 10 : 11;
-  const int cols = size <= 10 ? 11 : 17;
-  BookletPuzzle p{number, rows, cols, {}, {}};
+  // The drawn boards of the four sizes, in cells.
+  const double down = size == 7 ? 6 : size == 10 ? 8 : size == 17 ? 10 : 11;
+  const double across = size <= 10 ? 10 : 16;
+  BookletPuzzle p{number, across, down, {}, {}};
   for (int h = 1; h <= size; ++h) {
     p.inside.push_back("in " + std::to_string(h) + " " + clue);
     p.outside.push_back("out " + std::to_string(h) + " " + clue);
