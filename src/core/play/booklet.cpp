@@ -148,7 +148,9 @@ std::vector<BookletPage> layOutBooklet(const std::vector<BookletPuzzle>& puzzles
       for (std::size_t b = 0; b < blocks.size(); ++b) {
         // A heading stays with its first clue.
         const double needed = blocks[b].height + (b == 0 && blocks.size() > 1 ? blocks[1].height : 0);
-        if (y + needed > body.bottom && y > columnTop) {
+        // Half a twip of slack: a board sized to leave the clues just their
+        // room must not lose the last one to rounding.
+        if (y + needed > body.bottom + 0.5 && y > columnTop) {
           nextColumn();
           // A list that goes on in a new column says whose clues these are.
           if (b > 0) {

@@ -81,7 +81,7 @@ PrntForm::PrntForm(const QString& printerName, const QString& collectionPath, lo
 
   auto* fraLayout = new QGroupBox("Layout", this);
   fraLayout->setObjectName("fraLayout");
-  m_optPages = new QRadioButton("Puzzle &pages: each puzzle with its solution below", fraLayout);
+  m_optPages = new QRadioButton("P&uzzle pages: each puzzle with its solution below", fraLayout);
   m_optPages->setObjectName("optPages");
   m_optPages->setChecked(true);
   m_optBooklet = new QRadioButton("&Booklet: each puzzle with its clues, answer keys at the end", fraLayout);
