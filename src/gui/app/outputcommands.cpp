@@ -221,6 +221,7 @@ void OutputCommands::preview(int first, int last, bool booklet, const QString& t
   QPrinter printer(QPrinter::HighResolution);
   const QString name = this->printer().printerName();
   if (!name.isEmpty()) printer.setPrinterName(name);
+  usePrintersOwnPaper(printer);
   QPrintPreviewDialog dialog(&printer, &m_window);
   dialog.setWindowTitle(booklet ? "Booklet preview" : "Print preview");
   connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* shown) {

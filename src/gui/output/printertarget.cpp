@@ -8,9 +8,21 @@
 
 namespace combwise {
 
+void usePrintersOwnPaper(QPrinter& printer) {
+  // Qt keeps the paper of the printer chosen before when the new one takes
+  // it too; the pages are laid out for the paper the printer is set up with.
+  const QPageSize paper = QPrinterInfo(printer).defaultPageSize();
+  if (paper.isValid()) printer.setPageSize(paper);
+}
+
 PrinterTarget::PrinterTarget(const QString& printerName)
     : m_own(std::make_unique<QPrinter>(QPrinter::HighResolution)), m_printer(m_own.get()) {
   if (!printerName.isEmpty()) m_printer->setPrinterName(printerName);
+  // Printers installed without a default one: the first will do, rather
+  // than saying there is none.
+  const QStringList installed = QPrinterInfo::availablePrinterNames();
+  if (m_printer->printerName().isEmpty() && !installed.isEmpty()) m_printer->setPrinterName(installed.first());
+  usePrintersOwnPaper(*m_printer);
   m_printer->setDocName("Combwise");
   // The page positions are measured from the paper's edge.
   m_printer->setFullPage(true);
@@ -26,6 +38,7 @@ QString PrinterTarget::choosePrinter(QWidget* parent) {
   PrinterChooser chooser(QPrinterInfo::availablePrinterNames(), m_printer->printerName(), parent);
   if (chooser.exec() != QDialog::Accepted || chooser.chosen().isEmpty()) return {};
   m_printer->setPrinterName(chooser.chosen());
+  usePrintersOwnPaper(*m_printer);
   m_printer->setFullPage(true);
   return m_printer->printerName();
 }

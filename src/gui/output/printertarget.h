@@ -10,6 +10,9 @@
 
 namespace combwise {
 
+// Sets the printer's paper to the one the printer is set up with.
+void usePrintersOwnPaper(QPrinter& printer);
+
 class PrinterTarget : public PrintTarget {
  public:
   // The system's default printer, or the one named.
