@@ -266,6 +266,27 @@ TEST(CliPdf, ARangePrintsOnePageAPuzzleStoppingAtTheEndCluesAddAPageAndBadRanges
   EXPECT_FALSE(std::filesystem::exists(none));
 }
 
+TEST(CliPdf, ABookletHasAPagePerPuzzleThenItsKeysOnTheChosenPaper) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt");
+  ASSERT_EQ(cli({"create", "--size", "10", "--count", "3", "--seed", "8", "--output", collection}).status, 0);
+  for (const auto& [paper, size] : {std::pair{"Letter", "612 x 792 pts (letter)"}, std::pair{"A4", "(A4)"}}) {
+    const std::string pdf = temp.file(std::string("booklet-") + paper + ".pdf");
+    const CliRun run =
+        cli({"pdf", collection, "all", "--output", pdf, "--booklet", "--title", "Class 4b", "--paper", paper});
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(pages(pdf), 3 + 1) << paper;
+    EXPECT_THAT(commandOutput("pdfinfo '" + pdf + "'"), HasSubstr(size));
+    const std::string text = commandOutput("pdftotext '" + pdf + "' -");
+    for (const char* expected : {"Class 4b", "Puzzle 3", "Inside clues", "Outside clues", "Answers", "Page 4 of 4"})
+      EXPECT_THAT(text, HasSubstr(expected)) << paper;
+  }
+  const std::string none = temp.file("none.pdf");
+  EXPECT_EQ(cli({"pdf", collection, "1", "--output", none, "--booklet", "--paper", "A5"}).status, 2);
+  EXPECT_EQ(cli({"pdf", collection, "1", "--output", none, "--title", "T"}).status, 2);
+  EXPECT_FALSE(std::filesystem::exists(none));
+}
+
 // Words only, so a clue wrapped over lines on paper compares with its
 // one-line form in the text file.
 std::string wordsOf(const std::string& text) {
