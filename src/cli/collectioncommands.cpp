@@ -11,6 +11,7 @@
 #include "core/files/errorlog.h"
 #include "core/files/puzzlefile.h"
 #include "core/files/textfile.h"
+#include "core/generator/distinct.h"
 #include "core/model/text.h"
 
 namespace combwise::cli {
@@ -30,7 +31,8 @@ constexpr const char* kCheckHelp =
     "Reads every line of the collection FILE and reports the ones that do not\n"
     "load or break a puzzle's rules: letters that do not spell their words,\n"
     "words not in the dictionary (default: english3.txt in the program folder),\n"
-    "meaning numbers beyond a word's meanings. Exit status 1 when any does.\n";
+    "meaning numbers beyond a word's meanings, a word or a clue text that stands\n"
+    "twice in one puzzle. Exit status 1 when any does.\n";
 
 // The problems of one loaded puzzle beyond its invariants.
 // Without a usable dictionary or meanings list that check is left out.
@@ -127,7 +129,7 @@ int runCheck(Context& context, const Arguments& args) {
 
   LineReader reader(path);
   if (!reader.isOpen()) {
-    context.err << "combwise-cli check: " << fileErrorMessage("open", path, reader.errorNumber()) << "\n";
+    context.err << "combwise-cli check: " << reader.error() << "\n";
     return 1;
   }
   reader.setMaxLineLength(kMaxPuzzleLineLength);
@@ -147,12 +149,13 @@ int runCheck(Context& context, const Arguments& args) {
     }
     problems = invariantBreaches(board, state);
     wordProblems(state, wordsToCheck, meaningsToCheck, problems);
+    for (std::string& repeat : repeatProblems(state, meaningsToCheck)) problems.push_back(std::move(repeat));
     if (problems.empty()) continue;
     ++bad;
     for (const auto& problem : problems) context.out << path << ":" << number << ": " << problem << "\n";
   }
   if (reader.failed()) {
-    context.err << "combwise-cli check: " << fileErrorMessage("read", path, reader.errorNumber()) << "\n";
+    context.err << "combwise-cli check: " << reader.error() << "\n";
     return 1;
   }
   if (number == 0) {

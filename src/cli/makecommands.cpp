@@ -22,6 +22,7 @@ namespace {
 constexpr const char* kCreateHelp =
     "Usage: combwise-cli create --size N --output FILE [--count K] [--jobs J] [--seed S]\n"
     "                           [--dictionary PATH] [--meanings PATH] [--max-tries T]\n"
+    "                           [--distinct]\n"
     "\n"
     "Appends K new puzzles (default 1) of size N (7, 10, 17 or 22) to FILE.\n"
     "  --count K         from 1 to 100000000; puzzles are written as they are made\n"
@@ -33,10 +34,13 @@ constexpr const char* kCreateHelp =
     "  --meanings PATH   the meanings file (default: mean3456.txt in the program folder)\n"
     "  --max-tries T     tries for one puzzle before the dictionary is judged unable\n"
     "                    to make puzzles of the size (default 20000; the game's\n"
-    "                    dictionary needs far fewer at every size)\n";
+    "                    dictionary needs far fewer at every size); a dictionary\n"
+    "                    so large that its tries take long is judged sooner\n"
+    "  --distinct        no word and no clue text twice in a puzzle: the puzzles\n"
+    "                    made without it, less the ones with a repeat\n";
 
 constexpr const char* kBatchHelp =
-    "Usage: combwise-cli batch [--count K] [--jobs J] [--seed S] [--max-tries T]\n"
+    "Usage: combwise-cli batch [--count K] [--jobs J] [--seed S] [--max-tries T] [--distinct]\n"
     "\n"
     "Appends 2000 puzzles (or K) of size 17, made from the program folder's\n"
     "english3.txt, to puz-18sepsize17D.txt in the program folder (in\n"
@@ -94,7 +98,9 @@ bool readRunOptions(ParsedArgs& parsed, LineRunOptions& options) {
   if (auto seed = parsed.number("--seed", 0, std::numeric_limits<long long>::max()))
     options.seed = static_cast<std::uint64_t>(*seed);
   options.maxTries = kDefaultMaxTries;
+  options.maxWork = kDefaultMaxWork;
   if (auto tries = parsed.number("--max-tries", 1, 1000000000000LL)) options.maxTries = *tries;
+  options.distinct = parsed.has("--distinct");
   return parsed.error.empty();
 }
 
@@ -103,7 +109,7 @@ bool readRunOptions(ParsedArgs& parsed, LineRunOptions& options) {
 int runCreate(Context& context, const Arguments& args) {
   ParsedArgs parsed = parseArgs(
       args, {"--size", "--count", "--jobs", "--seed", "--dictionary", "--meanings", "--output", "--max-tries"},
-      {"--help"});
+      {"--help", "--distinct"});
   if (parsed.has("--help")) {
     context.out << kCreateHelp;
     return 0;
@@ -144,7 +150,7 @@ int runCreate(Context& context, const Arguments& args) {
 }
 
 int runBatch(Context& context, const Arguments& args) {
-  ParsedArgs parsed = parseArgs(args, {"--count", "--jobs", "--seed", "--max-tries"}, {"--help"});
+  ParsedArgs parsed = parseArgs(args, {"--count", "--jobs", "--seed", "--max-tries"}, {"--help", "--distinct"});
   if (parsed.has("--help")) {
     context.out << kBatchHelp;
     return 0;

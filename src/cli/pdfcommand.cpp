@@ -100,7 +100,8 @@ int runPdf(Context& context, const Arguments& args) {
   const std::string& path = parsed.positional[0];
   const int count = countPuzzles(path);
   if (count == 0) {
-    context.err << "combwise-cli pdf: " << path << " holds no puzzles\n";
+    const auto reason = unreadableReason(path);
+    context.err << "combwise-cli pdf: " << (reason ? *reason : path + " holds no puzzles") << "\n";
     return 1;
   }
   const PrintRangeCheck range = parseToolRange(parsed.positional[1], count);
@@ -135,8 +136,9 @@ int runPdf(Context& context, const Arguments& args) {
       parsed.has("--booklet") ? PrintBooklet(pdf, first, last, count, load,
                                              QString::fromStdString(parsed.value("--title").value_or(kBookletTitle)))
                               : PrintPuzzleRange(pdf, first, last, count, load, parsed.has("--clues"));
-  if (!printed.opened) {
-    context.err << "combwise-cli pdf: cannot write " << *output << "\n";
+  if (!printed.opened || !printed.written) {
+    // Nothing was left behind: the file appears only when written in full.
+    context.err << "combwise-cli pdf: " << (pdf.error().empty() ? "Cannot write " + *output : pdf.error()) << "\n";
     return 1;
   }
   context.out << NumberText(printed.printed) << " puzzles printed to " << *output << "\n";

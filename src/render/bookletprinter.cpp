@@ -139,7 +139,8 @@ RangeOutcome PrintBooklet(PrintTarget& target, int first, int last, int count, c
 
   painter->setRenderHint(QPainter::TextAntialiasing, true);
   for (std::size_t p = 0; p < pages.size(); ++p) {
-    if (p > 0) target.newPage();
+    // A page that cannot be turned (the file failed) ends the booklet.
+    if (p > 0 && !target.newPage()) break;
     const BookletPage& page = pages[p];
     painter->save();
     painter->setPen(QPen(Qt::black, std::max(1.0, 15 / twips.perPixelY)));
@@ -161,7 +162,7 @@ RangeOutcome PrintBooklet(PrintTarget& target, int first, int last, int count, c
     if (events) events();
   }
   outcome.printed = static_cast<int>(puzzles.size());
-  target.endDocument();
+  outcome.written = target.endDocument();
   return outcome;
 }
 

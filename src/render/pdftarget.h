@@ -2,15 +2,21 @@
 // tool use, and how the tests print without a printer.
 #pragma once
 
+#include <QIODevice>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
 #include <memory>
+#include <string>
 
 #include "render/printtarget.h"
 
 namespace combwise {
 
+class AtomicFile;
+
+// The file appears only once the whole document is written: a full disk or
+// a folder that cannot be written leaves no file (or the old one) behind.
 class PdfTarget : public PrintTarget {
  public:
   // Pages of `paper` (A4 unless told) at `resolution` dots per inch, drawn
@@ -25,11 +31,17 @@ class PdfTarget : public PrintTarget {
   bool endDocument() override;
 
   const QString& path() const { return m_path; }
+  // Why the file could not be written, naming it and the cause ("Cannot
+  // write D/p.pdf: No space left on device"); empty after a success.
+  std::string error() const override { return m_error; }
 
  private:
   QString m_path;
   QPageSize::PageSizeId m_paper;
   int m_resolution;
+  std::string m_error;
+  std::unique_ptr<AtomicFile> m_file;
+  std::unique_ptr<QIODevice> m_device;
   std::unique_ptr<QPdfWriter> m_writer;
   std::unique_ptr<QPainter> m_painter;
 };

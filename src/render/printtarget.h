@@ -6,6 +6,7 @@
 
 #include <QMarginsF>
 #include <QString>
+#include <string>
 
 class QPainter;
 class QWidget;
@@ -30,6 +31,9 @@ class PrintTarget {
   virtual bool newPage() = 0;
   // Ends the document, which sends it to the printer or writes the file.
   virtual bool endDocument() = 0;
+  // After a failed begin or end: what went wrong, naming the file and the
+  // cause where there is one; empty when nothing is known.
+  virtual std::string error() const { return {}; }
 
   // How far in from the paper's edges the device can print, in twips.
   virtual QMarginsF printableMargins() const { return {}; }

@@ -14,25 +14,27 @@ RangeOutcome PrintPuzzleRange(PrintTarget& target, int first, int last, int coun
   bool pageUsed = false;
   // A page is turned before each new page rather than after the last, so
   // skipped puzzles and an early end leave no blank page behind.
+  // A page that cannot be turned (the file failed) ends the run.
   const auto nextPage = [&] {
-    if (pageUsed) target.newPage();
+    const bool turned = !pageUsed || target.newPage();
     pageUsed = true;
+    return turned;
   };
   for (int n = std::max(first, 1); n <= last && n <= count; ++n) {
     const std::optional<PagePuzzle> page = load(n);
     if (page) {
-      nextPage();
+      if (!nextPage()) break;
       PrintPuzzle(*painter, *page, kPageLeft, kSheetTop, 0);
       PrintPuzzle(*painter, *page, kPageLeft, kRangeSolvedTop, 1);
       if (withClues) {
-        nextPage();
+        if (!nextPage()) break;
         PrintClueList(*painter, *page, kClueListLeft, kClueListTop, [&] { target.newPage(); });
       }
       ++outcome.printed;
     }
     if (events) events();
   }
-  target.endDocument();
+  outcome.written = target.endDocument();
   return outcome;
 }
 

@@ -24,8 +24,9 @@ inline constexpr int kClueListTop = 1200;
 using PageLoader = std::function<std::optional<PagePuzzle>(int n)>;
 
 struct RangeOutcome {
-  bool opened = false;  // the printer or file could be opened
-  int printed = 0;      // puzzles printed
+  bool opened = false;   // the printer or file could be opened
+  bool written = false;  // the document was ended and sent or written in full
+  int printed = 0;       // puzzles printed
 };
 
 // Puzzles first..last, stopping after `count` (the collection's last).

@@ -5,6 +5,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/mount.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -12,6 +16,8 @@
 
 #include "core/files/config.h"
 #include "core/files/textfile.h"
+#include "support/fifo.h"
+#include "support/filesizelimit.h"
 #include "support/tempfolder.h"
 
 namespace combwise::cli {
@@ -38,9 +44,12 @@ TEST(CliCreate, ASeedGivesTheSameFileWhateverTheJobsAndRunsAppend) {
   const std::string one = temp.file("one.txt");
   const std::string two = temp.file("two.txt");
   for (int round = 1; round <= 2; ++round) {
-    EXPECT_EQ(cli({"create", "--size", "10", "--count", "5", "--seed", "77", "--jobs", "1", "--output", one}).status,
+    EXPECT_EQ(
+        cli({"create", "--size", "10", "--count", "5", "--seed", "77", "--jobs", "1", "--distinct", "--output", one})
+            .status,
+        0);
+    EXPECT_EQ(cli({"create", "--size=10", "--count=5", "--seed=77", "--jobs=2", "--distinct", "--output", two}).status,
               0);
-    EXPECT_EQ(cli({"create", "--size=10", "--count=5", "--seed=77", "--jobs=2", "--output", two}).status, 0);
   }
   EXPECT_EQ(TempFolder::contentOf(one), TempFolder::contentOf(two));
   // The second run makes the same five again: each puzzle depends on its seed and number only.
@@ -164,7 +173,8 @@ TEST(CliCreate, ADictionaryThatCannotMakeTheSizeStopsAtMaxTriesAndAppendsNothing
 TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
   TempFolder temp;
   const std::string collection = temp.file("set.txt");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "1", "--seed", "5", "--output", collection}).status, 0);
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "1", "--seed", "5", "--distinct", "--output", collection}).status,
+            0);
   std::string good = (*readLines(collection))[0];
   std::string swapped = good;
   const auto letter = swapped.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
@@ -324,6 +334,129 @@ TEST(CliPdf, ALargeFontListingOfTheBiggestPuzzleKeepsEveryClueOnA4AndLetter) {
       EXPECT_THAT(printed, HasSubstr(wordsOf(line))) << paper;
     }
   }
+}
+
+struct ToolRun {
+  int status = -1;
+  std::string output;  // standard output and error together
+};
+
+// Runs the built tool in a process of its own, under a deadline, so that
+// whatever it prints (Qt's warnings too) is seen. `prefix` goes before it
+// on the command line (another user, for instance).
+ToolRun tool(const std::vector<std::string>& args, const std::string& prefix = {}) {
+  std::string command = prefix + "timeout 30 '" COMBWISE_BIN_DIR "/combwise-cli' --home '" COMBWISE_BIN_DIR "'";
+  for (const auto& arg : args) command += " '" + arg + "'";
+  ToolRun run;
+  FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+  if (!pipe) return run;
+  char buffer[4096];
+  while (fgets(buffer, sizeof buffer, pipe)) run.output += buffer;
+  const int status = pclose(pipe);
+  run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return run;
+}
+
+long filesIn(const std::string& folder) {
+  return static_cast<long>(std::distance(std::filesystem::directory_iterator(folder), {}));
+}
+
+TEST(CliPipes, EveryCommandRefusesAPipeWithoutWaitingOnIt) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt"), output = temp.file("out.txt");
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "1", "--seed", "3", "--output", collection}).status, 0);
+  const Fifo pipe(temp.file("pipe.txt"));
+  ASSERT_TRUE(pipe.made());
+  const std::string refused = "Cannot open " + pipe.path() + ": it is not a regular file\n";
+  const std::vector<std::vector<std::string>> commands = {
+      {"create", "--size", "7", "--dictionary", pipe.path(), "--output", output},
+      {"create", "--size", "7", "--meanings", pipe.path(), "--output", output},
+      {"check", collection, "--dictionary", pipe.path()},
+      {"check", pipe.path()},
+      {"randomize", pipe.path()},
+      {"show", pipe.path(), "1"},
+      {"pdf", pipe.path(), "all", "--output", temp.file("p.pdf")},
+  };
+  for (const auto& command : commands) {
+    CliRun run;
+    EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { run = cli(command); })) << command[0] << " " << command[1];
+    EXPECT_EQ(run.status, 1) << command[0];
+    EXPECT_EQ(run.err, "combwise-cli " + command[0] + ": " + refused) << command[0];
+  }
+  CliRun appended;
+  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] {
+    appended = cli({"create", "--size", "7", "--seed", "1", "--output", pipe.path()});
+  }));
+  EXPECT_EQ(appended.err, "combwise-cli create: Cannot write " + pipe.path() + ": it is not a regular file\n");
+  // The PDF is written by a process of its own: Qt wants its main thread.
+  const ToolRun printed = tool({"pdf", collection, "1", "--output", pipe.path()});
+  EXPECT_EQ(printed.status, 1);
+  EXPECT_THAT(printed.output, HasSubstr("Cannot write " + pipe.path() + ": it is not a regular file"));
+  EXPECT_FALSE(std::filesystem::exists(output));
+}
+
+TEST(CliFullDisk, AFailedWriteLeavesThePdfAndTheCollectionAsTheyWereAndSaysWhy) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt"), pdf = temp.file("p.pdf");
+  ASSERT_EQ(cli({"create", "--size", "7", "--count", "3", "--seed", "5", "--output", collection}).status, 0);
+  ASSERT_TRUE(writeLines(pdf, {"old"}, WriteMode::Truncate));
+  const std::string before = TempFolder::contentOf(collection);
+  CliRun printed, created;
+  {
+    const FileSizeLimit full(before.size() + 1000);  // less than three printed pages, or six more puzzles
+    printed = cli({"pdf", collection, "all", "--output", pdf, "--clues"});
+    created = cli({"create", "--size", "7", "--count", "30", "--seed", "6", "--output", collection});
+  }
+  EXPECT_EQ(printed.status, 1);
+  EXPECT_EQ(printed.out, "");
+  EXPECT_EQ(printed.err, "combwise-cli pdf: Cannot write " + pdf + ": File too large\n");
+  EXPECT_EQ(TempFolder::contentOf(pdf), "old\r\n");
+  EXPECT_EQ(created.status, 1);
+  EXPECT_THAT(created.err, HasSubstr("Cannot write " + collection + ": File too large; the "));
+  EXPECT_THAT(created.err, HasSubstr(" lines added before it were taken back"));
+  EXPECT_EQ(TempFolder::contentOf(collection), before);
+  EXPECT_EQ(filesIn(temp.folder()), 2);
+
+  // A folder the tool may not write to: the cause, and no word from Qt.
+  std::filesystem::create_directory(temp.file("ro"));
+  std::filesystem::permissions(temp.file("ro"), std::filesystem::perms(0555));
+  const bool root = ::geteuid() == 0;
+  if (root && std::system("setpriv --help > /dev/null 2>&1") != 0) GTEST_SKIP() << "no setpriv to run as another user";
+  const ToolRun refused = tool({"pdf", collection, "1", "--output", temp.file("ro/c.pdf")},
+                               root ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.output,
+              HasSubstr("combwise-cli pdf: Cannot write " + temp.file("ro/c.pdf") + ": Permission denied"));
+  EXPECT_THAT(refused.output, ::testing::Not(HasSubstr("QPainter")));
+  EXPECT_EQ(filesIn(temp.file("ro")), 0);
+}
+
+// A real full disk: a small memory file system, where this process may mount one.
+TEST(CliFullDisk, OnASmallFileSystemTheCauseIsNoSpaceLeft) {
+  TempFolder temp;
+  const std::string disk = temp.file("disk");
+  std::filesystem::create_directory(disk);
+  if (::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=64k") != 0)
+    GTEST_SKIP() << "mounting a small tmpfs is not allowed here; the file size limit case covers full disks";
+  const std::string collection = disk + "/set.txt", pdf = disk + "/p.pdf";
+  CliRun printed, created;
+  std::string before;
+  if (cli({"create", "--size", "7", "--count", "3", "--seed", "5", "--output", collection}).status == 0) {
+    before = TempFolder::contentOf(collection);
+    writeLines(disk + "/filler", {std::string(56 * 1024, 'f')}, WriteMode::Truncate);  // leaves a page or two
+    printed = cli({"pdf", collection, "all", "--output", pdf, "--clues"});
+    created = cli({"create", "--size", "7", "--count", "60", "--seed", "6", "--output", collection});
+  }
+  const std::string after = TempFolder::contentOf(collection);
+  const bool pdfLeft = std::filesystem::exists(pdf);
+  const long files = filesIn(disk);
+  ASSERT_EQ(::umount(disk.c_str()), 0);
+  ASSERT_FALSE(before.empty());
+  EXPECT_EQ(printed.err, "combwise-cli pdf: Cannot write " + pdf + ": No space left on device\n");
+  EXPECT_FALSE(pdfLeft);
+  EXPECT_THAT(created.err, HasSubstr("Cannot write " + collection + ": No space left on device; the "));
+  EXPECT_EQ(after, before);
+  EXPECT_EQ(files, 2);
 }
 
 }  // namespace

@@ -10,6 +10,8 @@
 #include <set>
 
 #include "core/files/dictionary.h"
+#include "core/files/puzzlefile.h"
+#include "core/generator/distinct.h"
 #include "data/tools/glossrules.h"
 #include "data/tools/wordconverter.h"
 #include "support/gamedata.h"
@@ -99,6 +101,17 @@ TEST(GeneratedWords, EveryWordIsPlainAndFindsItsCluesThroughTheGamesSearch) {
     const int count = reader.countLines(key, first);
     EXPECT_TRUE(count >= 1 && count <= wordconv::kDefaultMaxClues) << word << " has " << count;
     EXPECT_FALSE(reader.clue(word, count).empty()) << word;
+  }
+}
+
+TEST(GeneratedFiles, ReadymadePuzzlesHoldNoWordOrClueTwice) {
+  const std::vector<std::string> lines = crLfLines("puzzles.txt");
+  ASSERT_EQ(lines.size(), 800u);
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    Board board;
+    PuzzleState state;
+    ASSERT_TRUE(loadPuzzleLine(lines[i], board, state, ClueSource{}).loaded()) << "puzzle " << i + 1;
+    EXPECT_EQ(repeatProblems(state, &testing::gameMeanings()), std::vector<std::string>{}) << "puzzle " << i + 1;
   }
 }
 

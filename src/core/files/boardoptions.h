@@ -15,10 +15,7 @@ inline constexpr const char* kDefaultBoardFontName = "Arial";
 inline constexpr int kDefaultBoardFontSize = 10;
 inline constexpr int kDefaultOutlineWidth = 2;
 
-inline constexpr int kMinOutlineWidth = 1;
-inline constexpr int kMaxOutlineWidth = 20;
-inline constexpr int kMinBoardFontSize = 8;
-inline constexpr int kMaxBoardFontSize = 32;
+// The ranges of the samples are those the configuration is held to (config.h).
 
 // The settings as start-up sets them: scheme "xp.col", board font "Arial"
 // at 10 points, outline width 2, and the board colours of the start-up

@@ -63,16 +63,15 @@ RandomizeResult randomizeCollection(const std::string& collectionPath, RandomSou
 
   DistinctLines distinct;
   {
-    if (auto reason = unreadableReason(collectionPath)) return failure(result, *reason);
     LineReader reader(collectionPath);
-    if (!reader.isOpen()) return failure(result, fileErrorMessage("open", collectionPath, reader.errorNumber()));
+    if (!reader.isOpen()) return failure(result, reader.error());
     while (auto line = reader.next()) {
       ++result.readCount;
       if (distinct.add(std::move(*line))) ++result.distinctCount;
       report(progress, "source " + NumberText(result.readCount) + " " + NumberText(result.distinctCount));
       pump(events);
     }
-    if (reader.failed()) return failure(result, fileErrorMessage("read", collectionPath, reader.errorNumber()));
+    if (reader.failed()) return failure(result, reader.error());
   }
 
   // Ranking by key and line in the sorted list's order: one sort of all the

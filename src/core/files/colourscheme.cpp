@@ -23,18 +23,20 @@ SchemeLoad loadScheme(const std::string& schemeFile, const std::string& name, Co
     const SchemeSearch search = readScheme([&reader] { return reader.next(); }, name, colours);
     if (search == SchemeSearch::NotFound) {
       scheme.name = fallback;
-      return {0, std::string(wordsBefore) + name + " not found"};
+      const std::string shownName = printableText(name);
+      std::string detail = reader.failed() ? reader.error() : schemeFile + " holds no scheme " + shownName;
+      return {0, std::string(wordsBefore) + shownName + " not found", std::move(detail)};
     }
     scheme.colours = colours;
     scheme.name = name;
-    if (search == SchemeSearch::Complete) return {scheme[ColourScheme::kBackground], {}};
+    if (search == SchemeSearch::Complete) return {scheme[ColourScheme::kBackground], {}, {}};
   } else {
     scheme.name = name;
   }
   scheme[ColourScheme::kBackground] = designed.listBox;
   scheme[ColourScheme::kButtons] = designed.listBox;
   scheme[ColourScheme::kFormBrush] = designed.formBrush;
-  return {scheme[ColourScheme::kBackground], {}};
+  return {scheme[ColourScheme::kBackground], {}, {}};
 }
 
 }  // namespace

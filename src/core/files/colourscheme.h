@@ -90,13 +90,17 @@ struct DesignedColours {
 struct SchemeLoad {
   int colour = 0;       // options window: the colour for the picker (index 2, 0 when not found)
   std::string message;  // a notice to show; empty when none
+  // With a notice, the scheme file and why the scheme was not in it: the
+  // file cannot be read (and why), or it holds no header of that name.
+  std::string detail;
 };
 
 // The options window's loader. "default.col" (in any case) never opens the
 // file: it takes indices 2, 3 and 4 from the designed colours, and so does a
 // scheme whose colour lines stop early. A missing scheme gives the notice
 // "Color Scheme: NAME not found" for the platform's plain box, the name
-// "default.col" and colour 0, the table unchanged.
+// "default.col" and colour 0, the table unchanged. Characters of the name
+// that cannot be shown appear as "?" in the notice.
 SchemeLoad loadOptionsScheme(const std::string& schemeFile, const std::string& name, ColourScheme& scheme,
                              const DesignedColours& designed);
 

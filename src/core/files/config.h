@@ -6,6 +6,8 @@
 
 #include <array>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "core/model/callbacks.h"
 
@@ -53,14 +55,36 @@ std::string defaultDictionaryPath(const std::string& programFolder);
 // preceded by one (" 7  10  255 -3 ").
 std::string formatNumberLine(const Settings& settings);
 
+// The ranges the options window offers; values read from the file are held
+// to them so a damaged file cannot make the board unreadable.
+inline constexpr int kMinBoardFontSize = 8;
+inline constexpr int kMaxBoardFontSize = 32;
+inline constexpr int kMinOutlineWidth = 1;
+inline constexpr int kMaxOutlineWidth = 20;
+inline constexpr int kMaxColour = 0xFFFFFF;
+
+// What reading the configuration found amiss, for the window to tell if it
+// chooses: each note names the file and what was wrong with it. A missing
+// file is no fault (the first start has none).
+struct ConfigRead {
+  std::vector<std::string> notes;
+};
+
+// A scheme name the configuration may hold: printable text naming a ".col"
+// scheme, not the bytes of a damaged file.
+bool isSchemeName(std::string_view name);
+
 // Reads the program folder's configuration into `settings`. A missing or
 // damaged file ends the reading where it fails and keeps what was read
-// before; nothing is reported. Afterwards a dictionary path that names no
-// file or an empty one becomes the default dictionary.
-void ReadcfgFile(const std::string& programFolder, Settings& settings);
+// before. A first line that is no scheme name keeps the scheme already set,
+// and numbers outside the options window's ranges are held to them.
+// Afterwards a dictionary path that names no file or an empty one becomes
+// the default dictionary.
+ConfigRead ReadcfgFile(const std::string& programFolder, Settings& settings);
 
 // Writes every setting and all five recent-file captions, shown or not. The
-// new file replaces the old one only once it is written in full.
+// new file replaces the old one only once it is written in full; a failure
+// names the file and the cause ("Permission denied").
 Status SavecfgFile(const std::string& programFolder, const Settings& settings);
 
 }  // namespace combwise

@@ -64,9 +64,8 @@ std::string skippedLinesWarning(const Dictionary& dictionary) {
 Status readDictionary(const std::string& path, Dictionary& dictionary, const PumpEvents& events) {
   dictionary.clear();
   dictionary.skippedLines = 0;
-  if (auto reason = unreadableReason(path)) return Status::failure(*reason);
   LineReader reader(path);
-  if (!reader.isOpen()) return Status::failure(fileErrorMessage("open", path, reader.errorNumber()));
+  if (!reader.isOpen()) return Status::failure(reader.error());
   // No word is longer than six letters: longer lines need not be kept whole.
   reader.setMaxLineLength(64);
   try {
@@ -84,7 +83,7 @@ Status readDictionary(const std::string& path, Dictionary& dictionary, const Pum
     }
     if (reader.failed()) {
       dictionary.clear();
-      return Status::failure(fileErrorMessage("read", path, reader.errorNumber()));
+      return Status::failure(reader.error());
     }
     // Inserting one by one into the sorted list gives the same order as a
     // stable sort of the keys in file order.
@@ -108,9 +107,8 @@ Status Meanings::read(const std::string& path, const PumpEvents& events) {
 Status Meanings::reload(const std::string& path, const PumpEvents& events) {
   m_lines.Clear();
   m_warning.clear();
-  if (auto reason = unreadableReason(path)) return Status::failure(*reason);
   LineReader reader(path);
-  if (!reader.isOpen()) return Status::failure(fileErrorMessage("open", path, reader.errorNumber()));
+  if (!reader.isOpen()) return Status::failure(reader.error());
   try {
     while (auto line = reader.next()) {
       pump(events);
@@ -122,7 +120,7 @@ Status Meanings::reload(const std::string& path, const PumpEvents& events) {
   }
   if (reader.failed()) {
     m_lines.Clear();
-    return Status::failure(fileErrorMessage("read", path, reader.errorNumber()));
+    return Status::failure(reader.error());
   }
   checkFitness(path);
   return Status::success();

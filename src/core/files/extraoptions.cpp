@@ -85,7 +85,7 @@ ExtraOptionsRead parseExtraOptions(std::string_view text, const std::string& fil
 ExtraOptionsRead readExtraOptions(const std::string& path) {
   std::error_code error;
   if (!std::filesystem::exists(path, error) && !error) return {};
-  if (auto reason = unreadableReason(path, true)) return {{}, {*reason}};
+  if (auto reason = unreadableReason(path)) return {{}, {*reason}};
   LineReader reader(path);
   reader.setMaxLineLength(kMaxLineLength);
   std::string text;

@@ -245,7 +245,7 @@ ProgressRead readProgressFile(const std::string& path) {
   ProgressRead read;
   std::error_code error;
   if (!std::filesystem::exists(path, error) && !error) return read;
-  if (auto reason = unreadableReason(path, true)) {
+  if (auto reason = unreadableReason(path)) {
     read.problems.push_back(*reason);
     return read;
   }

@@ -193,7 +193,7 @@ Status writePuzzle(const std::string& path, WriteMode mode, const PuzzleState& s
 int countPuzzles(const std::string& path) {
   // A pipe or device could be read only once, or would block: the reader
   // refuses it, and it counts as no puzzles.
-  if (unreadableReason(path, true)) return 0;
+  if (unreadableReason(path)) return 0;
   const long long count = countLines(path);
   return count > INT_MAX ? INT_MAX : static_cast<int>(count);
 }
@@ -248,7 +248,7 @@ PuzzleReadResult loadPuzzleLine(std::string_view line, Board& board, PuzzleState
 
 PuzzleReadResult readPuzzle(const std::string& path, int n, Board& board, PuzzleState& state, const ClueSource& clues) {
   // A file that cannot be read says why, rather than that it holds no puzzles.
-  if (auto reason = unreadableReason(path, true)) return failed(ReadOutcome::Unreadable, *reason, n);
+  if (auto reason = unreadableReason(path)) return failed(ReadOutcome::Unreadable, *reason, n);
   const int count = state.PuzzleCount;
   if (count <= 0) return failed(ReadOutcome::NoPuzzles, noPuzzlesMessage(path), n);
   if (n > count || n == 0 || n < -1) return failed(ReadOutcome::BeyondCount, beyondCountMessage(n, count), n);
@@ -256,7 +256,7 @@ PuzzleReadResult readPuzzle(const std::string& path, int n, Board& board, Puzzle
 
   // Only the lines up to n are read: collections can be long.
   LineReader reader(path);
-  if (!reader.isOpen()) return failed(ReadOutcome::Unreadable, fileErrorMessage("open", path, reader.errorNumber()), n);
+  if (!reader.isOpen()) return failed(ReadOutcome::Unreadable, reader.error(), n);
   reader.setMaxLineLength(kMaxPuzzleLineLength);
   for (int skipped = 1; skipped < n; ++skipped) {
     if (!reader.skip()) return failed(ReadOutcome::Unreadable, path + " has fewer than " + NumberText(n) + " lines", n);

@@ -1,6 +1,7 @@
 // Plain-text files: lines accepted with CR LF or LF, written with CR LF.
 #include "core/files/textfile.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,14 +12,27 @@
 #include <filesystem>
 #include <system_error>
 
+#include "core/files/atomicfile.h"
+#include "core/files/regularfile.h"
+#include "core/model/text.h"
+
 namespace combwise {
 
 namespace {
 constexpr std::size_t kChunk = 1 << 16;
 }  // namespace
 
-LineReader::LineReader(const std::string& path) : m_file(std::fopen(path.c_str(), "rb")) {
-  if (!m_file) m_errno = errno;
+LineReader::LineReader(const std::string& path) : m_path(path) {
+  OpenedFile opened = openRegularFile(path, OpenFor::Reading);
+  m_file = std::move(opened.file);
+  m_errno = opened.errorNumber;
+  m_openError = std::move(opened.error);
+}
+
+std::string LineReader::error() const {
+  if (!m_openError.empty()) return m_openError;
+  if (m_error) return fileErrorMessage("read", m_path, m_errno);
+  return {};
 }
 
 bool LineReader::fill() {
@@ -94,8 +108,9 @@ std::optional<std::vector<std::string>> readLines(const std::string& path) {
 }
 
 long long countLines(const std::string& path) {
-  std::FILE* file = std::fopen(path.c_str(), "rb");
-  if (!file) return 0;
+  const OpenedFile opened = openRegularFile(path, OpenFor::Reading);
+  if (!opened) return 0;
+  std::FILE* file = opened.file.get();
   long long count = 0;
   char last = '\n';  // an empty file has no unfinished last line
   std::vector<char> buffer(kChunk);
@@ -104,15 +119,25 @@ long long countLines(const std::string& path) {
     count += std::count(buffer.data(), buffer.data() + got, '\n');
     last = buffer[got - 1];
   }
-  const bool error = std::ferror(file) != 0;
-  std::fclose(file);
-  if (error) return 0;
+  if (std::ferror(file) != 0) return 0;
   return count + (last != '\n' ? 1 : 0);  // a last line without its end still counts
 }
 
 bool writeLines(const std::string& path, const std::vector<std::string>& lines, WriteMode mode) {
-  std::FILE* file = std::fopen(path.c_str(), mode == WriteMode::Append ? "ab" : "wb");
-  if (!file) return false;
+  // Opened without waiting, so a pipe with no reader fails at once (ENXIO)
+  // instead of blocking; one that has its reader is written as usual.
+  const int fd = ::open(
+      path.c_str(),
+      O_WRONLY | O_CREAT | (mode == WriteMode::Append ? O_APPEND : O_TRUNC) | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
+  if (fd < 0) return false;
+  if (const int flags = ::fcntl(fd, F_GETFL); flags >= 0) ::fcntl(fd, F_SETFL, flags & ~O_NONBLOCK);
+  std::FILE* file = ::fdopen(fd, mode == WriteMode::Append ? "ab" : "wb");
+  if (!file) {
+    const int cause = errno;
+    ::close(fd);
+    errno = cause;
+    return false;
+  }
   bool ok = true;
   for (const auto& line : lines) {
     ok = ok && std::fwrite(line.data(), 1, line.size(), file) == line.size();
@@ -123,21 +148,11 @@ bool writeLines(const std::string& path, const std::vector<std::string>& lines, 
 }
 
 bool replaceFileContent(const std::string& path, std::string_view content) {
-  const std::string temporary = path + ".new";
-  std::FILE* file = std::fopen(temporary.c_str(), "wb");
-  if (!file) return false;
-  bool ok = std::fwrite(content.data(), 1, content.size(), file) == content.size();
-  ok = (std::fflush(file) == 0) && ok;
-  ok = (std::fclose(file) == 0) && ok;
-  std::error_code error;
-  if (ok) std::filesystem::rename(temporary, path, error);
-  if (!ok || error) {
-    const int cause = error ? error.value() : errno;  // kept for the caller's message
-    std::filesystem::remove(temporary, error);
-    errno = cause;
-    return false;
-  }
-  return true;
+  AtomicFile file(path);
+  file.write(content);
+  if (file.commit().ok()) return true;
+  errno = file.errorNumber() != 0 ? file.errorNumber() : EINVAL;  // kept for the caller's message
+  return false;
 }
 
 std::string fileErrorMessage(std::string_view verb, const std::string& path, int errorNumber) {
@@ -147,12 +162,12 @@ std::string fileErrorMessage(std::string_view verb, const std::string& path, int
   return message;
 }
 
-std::optional<std::string> unreadableReason(const std::string& path, bool regularOnly) {
+std::optional<std::string> unreadableReason(const std::string& path) {
   if (path.empty()) return std::string("Cannot open a file without a name");
   struct stat info {};
   if (::stat(path.c_str(), &info) != 0) return fileErrorMessage("open", path, errno);
   if (S_ISDIR(info.st_mode)) return fileErrorMessage("open", path, EISDIR);
-  if (regularOnly && !S_ISREG(info.st_mode)) return "Cannot open " + path + ": it is not a regular file";
+  if (!S_ISREG(info.st_mode)) return notRegularMessage("open", path);
   if (::access(path.c_str(), R_OK) != 0) return fileErrorMessage("open", path, errno);
   return std::nullopt;
 }
@@ -160,41 +175,39 @@ std::optional<std::string> unreadableReason(const std::string& path, bool regula
 LineAppender::~LineAppender() { close(); }
 
 Status LineAppender::fail(int errorNumber) {
-  // Back to the length the file had, so no part of a line stays behind.
+  // Back to the length the file had before this appender wrote to it.
   if (m_file) {
-    std::clearerr(m_file);
-    if (::ftruncate(::fileno(m_file), static_cast<off_t>(m_startLength)) != 0) {
+    std::clearerr(m_file.get());
+    if (::ftruncate(::fileno(m_file.get()), static_cast<off_t>(m_startLength)) != 0) {
       // Nothing more can be done; the error below still says what failed.
     }
-    std::fclose(m_file);
-    m_file = nullptr;
-    if (m_created && m_startLength == 0) {
-      std::error_code ignored;
-      std::filesystem::remove(m_path, ignored);
-    }
+    m_file.reset();
+    if (m_created) ::unlink(m_path.c_str());
   }
-  return Status::failure(fileErrorMessage("write", m_path, errorNumber));
+  std::string message = fileErrorMessage("write", m_path, errorNumber);
+  if (m_added == 1) message += "; the line added before it was taken back";
+  if (m_added > 1) message += "; the " + NumberText(m_added) + " lines added before it were taken back";
+  m_added = 0;
+  return Status::failure(std::move(message));
 }
 
 Status LineAppender::open() {
   if (m_file) return Status::success();
-  if (m_path.empty()) return Status::failure("Cannot write a file without a name");
-  struct stat info {};
-  const bool existed = ::stat(m_path.c_str(), &info) == 0;
-  if (existed && S_ISDIR(info.st_mode)) return Status::failure(fileErrorMessage("write", m_path, EISDIR));
-  m_file = std::fopen(m_path.c_str(), "a+b");
-  if (!m_file) return Status::failure(fileErrorMessage("write", m_path, errno));
-  m_created = !existed;
+  OpenedFile opened = openRegularFile(m_path, OpenFor::Appending);
+  if (!opened) return Status::failure(std::move(opened.error));
+  m_file = std::move(opened.file);
+  m_created = opened.created;
   // Unbuffered: a failed write must leave nothing pending that closing the
   // file would write after the cut.
-  std::setvbuf(m_file, nullptr, _IONBF, 0);
-  if (std::fseek(m_file, 0, SEEK_END) != 0) return fail(errno);
-  m_startLength = std::ftell(m_file);
-  if (m_startLength < 0) m_startLength = 0;
-  if (m_startLength > 0 && S_ISREG(info.st_mode)) {
+  std::setvbuf(m_file.get(), nullptr, _IONBF, 0);
+  if (std::fseek(m_file.get(), 0, SEEK_END) != 0) return fail(errno);
+  m_startLength = std::ftell(m_file.get());
+  if (m_startLength < 0) return fail(errno);
+  if (m_startLength > 0) {
     char last = '\n';
-    if (std::fseek(m_file, -1, SEEK_END) == 0 && std::fread(&last, 1, 1, m_file) == 1) m_needsLineEnd = last != '\n';
-    std::fseek(m_file, 0, SEEK_END);
+    if (std::fseek(m_file.get(), -1, SEEK_END) == 0 && std::fread(&last, 1, 1, m_file.get()) == 1)
+      m_needsLineEnd = last != '\n';
+    std::fseek(m_file.get(), 0, SEEK_END);
   }
   return Status::success();
 }
@@ -207,27 +220,21 @@ Status LineAppender::add(std::string_view line) {
   text += line;
   text += "\r\n";
   errno = 0;
-  if (std::fwrite(text.data(), 1, text.size(), m_file) != text.size()) return fail(errno != 0 ? errno : EIO);
+  if (std::fwrite(text.data(), 1, text.size(), m_file.get()) != text.size()) return fail(errno != 0 ? errno : EIO);
   m_needsLineEnd = false;
-  // From here on the lines written stay, whatever happens later.
-  m_startLength += static_cast<long long>(text.size());
-  m_created = false;
   ++m_added;
   return Status::success();
 }
 
 Status LineAppender::close() {
   if (!m_file) return Status::success();
+  // A file system that reports a full disk only when the data goes out
+  // (over a network) still gets the file cut back.
+  if (m_added > 0 && ::fsync(::fileno(m_file.get())) != 0 && errno != EINVAL) return fail(errno);
   errno = 0;
-  if (std::fclose(m_file) != 0) {
-    m_file = nullptr;
-    return Status::failure(fileErrorMessage("write", m_path, errno != 0 ? errno : EIO));
-  }
-  m_file = nullptr;
-  if (m_created && m_added == 0) {
-    std::error_code ignored;
-    std::filesystem::remove(m_path, ignored);
-  }
+  const int closed = std::fclose(m_file.release());
+  if (closed != 0) return Status::failure(fileErrorMessage("write", m_path, errno != 0 ? errno : EIO));
+  if (m_created && m_added == 0) ::unlink(m_path.c_str());
   return Status::success();
 }
 

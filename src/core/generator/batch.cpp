@@ -27,7 +27,7 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
                        const LineSink& sink) {
   if (!Board::isValidSize(options.size)) return Status::failure("There is no puzzle size " + NumberText(options.size));
   if (options.count <= 0) return Status::success();
-  if (!PuzzleGenerator(dictionary, meanings).canGenerate())
+  if (!PuzzleGenerator::canGenerate(dictionary))
     return Status::failure("The dictionary " + (options.dictionaryPath.empty() ? "in use" : options.dictionaryPath) +
                            " needs at least two words of each length from 3 to 6 letters");
 
@@ -44,6 +44,7 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
   int next = 1;      // the next puzzle a worker takes
   int handed = 0;    // puzzles the sink has taken
   int failedAt = 0;  // the first puzzle that could not be made
+  long long failedTries = 0;
   bool stop = false;
 
   const auto work = [&] {
@@ -57,6 +58,8 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
       return stop;
     };
     hooks.maxTries = options.maxTries;
+    hooks.maxWork = options.maxWork;
+    hooks.distinct = options.distinct;
     for (;;) {
       int index = 0;
       {
@@ -74,6 +77,7 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
           lines.emplace(index, puzzleLine(state));
         } else if (failedAt == 0 || index < failedAt) {
           failedAt = index;
+          failedTries = generator.stats().lastTries;
         }
       }
       ready.notify_all();
@@ -95,7 +99,7 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
       if (found == lines.end()) {
         stop = true;
         status = Status::failure(gaveUpMessage(options.dictionaryPath.empty() ? "in use" : options.dictionaryPath,
-                                               options.size, options.maxTries));
+                                               options.size, failedTries));
         break;
       }
       line = std::move(found->second);
@@ -120,8 +124,9 @@ Status makePuzzleLines(const Dictionary& dictionary, const Meanings& meanings, c
 
 Status appendPuzzleLines(const std::string& path, const Dictionary& dictionary, const Meanings& meanings,
                          const LineRunOptions& options, const std::function<void(int)>& progress) {
+  // The file is opened with the first puzzle, so a run that gives up or is
+  // interrupted before it leaves no empty file.
   LineAppender file(path);
-  if (Status opened = file.open(); !opened.ok()) return opened;
   Status writeError;
   Status status = makePuzzleLines(dictionary, meanings, options, [&](int index, const std::string& line) {
     // Each puzzle goes to the file as soon as it is made, so an ended run

@@ -25,6 +25,8 @@ struct LineRunOptions {
   int jobs = 0;                       // worker threads; 0 for one per core
   std::optional<std::uint64_t> seed;  // reproducible streams; else the clock
   long long maxTries = 0;             // tries per puzzle before giving up; 0: no bound
+  long long maxWork = 0;              // work per puzzle before giving up (GeneratorHooks); 0: no bound
+  bool distinct = false;              // no word or clue text twice in a puzzle (GeneratorHooks)
   std::string dictionaryPath;         // named when the dictionary cannot make the size
 };
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "core/generator/distinct.h"
 #include "core/generator/letters.h"
 #include "core/model/text.h"
 
@@ -26,6 +27,38 @@ std::uint64_t packUpper(std::string_view letters) {
     packed |= upper << (8 * i);
   }
   return packed;
+}
+
+// The first 256 primes: 1619^6 still fits in 64 bits, so the product of up
+// to six letters' primes never overflows, and it names their multiset.
+std::array<std::uint64_t, 256> firstPrimes() {
+  std::array<std::uint64_t, 256> primes{};
+  std::size_t found = 0;
+  for (std::uint64_t candidate = 2; found < primes.size(); ++candidate) {
+    bool prime = true;
+    for (std::uint64_t d = 2; d * d <= candidate && prime; ++d) prime = candidate % d != 0;
+    if (prime) primes[found++] = candidate;
+  }
+  return primes;
+}
+
+// Upper-casing keeps the order of these bytes when no lower-case letter
+// shares them with a byte from 'A' to '`': then sorting and upper-casing may
+// be done in either order, and sorted letters are told apart by their
+// multiset alone.
+bool upperCasingKeepsOrder(const std::array<WordPool, 4>& pools) {
+  bool lower = false;
+  bool between = false;
+  for (const WordPool& pool : pools) {
+    for (int i = 0; i < pool.count(); ++i) {
+      for (const char ch : pool.at(i)) {
+        const auto c = static_cast<unsigned char>(ch);
+        lower = lower || (c >= 'a' && c <= 'z');
+        between = between || (c >= 'A' && c <= '`');
+      }
+    }
+  }
+  return !(lower && between);
 }
 
 }  // namespace
@@ -99,12 +132,40 @@ PuzzleGenerator::PuzzleGenerator(const Dictionary& dictionary, const Meanings& m
               WordPool(&dictionary.Words5.items()), WordPool(&dictionary.Words6.items())} {
   // Every prefix (1 to 6 letters) of every key's sorted letters: a hexagon
   // passes when its sorted inside letters are one of them.
+  std::vector<std::uint64_t> prefixes;
   for (const auto& key : dictionary.SixLetterKeys.items()) {
     for (std::size_t length = 1; length <= std::min<std::size_t>(6, key.size()); ++length)
-      m_keyPrefixes.push_back(packUpper(std::string_view(key).substr(0, length)));
+      prefixes.push_back(packUpper(std::string_view(key).substr(0, length)));
   }
-  std::sort(m_keyPrefixes.begin(), m_keyPrefixes.end());
-  m_keyPrefixes.erase(std::unique(m_keyPrefixes.begin(), m_keyPrefixes.end()), m_keyPrefixes.end());
+  m_prefixSet.assign(prefixes);
+
+  // Where it is exact, a hexagon's inside letters are checked by the
+  // product of their primes: no sorting, no branches.
+  if (upperCasingKeepsOrder(m_pools)) {
+    const auto primes = firstPrimes();
+    m_primeOf[0] = 1;  // an empty cell
+    for (int c = 1; c < 256; ++c)
+      m_primeOf[static_cast<std::size_t>(c)] =
+          primes[static_cast<std::size_t>(c >= 'a' && c <= 'z' ? c - ('a' - 'A') : c)];
+    std::vector<std::uint64_t> products;
+    for (const auto& key : dictionary.SixLetterKeys.items()) {
+      std::uint64_t product = 1;
+      for (std::size_t i = 0; i < std::min<std::size_t>(6, key.size()); ++i) {
+        product *= m_primeOf[static_cast<unsigned char>(key[i])];
+        products.push_back(product);
+      }
+    }
+    m_productSet.assign(products);
+    m_byProduct = true;
+  }
+}
+
+bool PuzzleGenerator::canGenerate(const Dictionary& dictionary) {
+  for (int length = 3; length <= 6; ++length) {
+    const clsSimpleArray* pool = dictionary.pool(length);
+    if (!pool || pool->ListCount() < 2) return false;
+  }
+  return true;
 }
 
 bool PuzzleGenerator::canGenerate() const {
@@ -120,20 +181,31 @@ bool PuzzleGenerator::generate(const Board& board, PuzzleState& state, RandomSou
   m_lastEnd = GenerateEnd::CannotGenerate;
   if (!canGenerate() || board.hexCount() == 0) return false;
   Work work(board);
+  long long poolWords = 0;
+  for (const WordPool& pool : m_pools) poolWords += pool.count();
+  long long workDone = 0;
+  m_stats.lastTries = 0;
   for (long long tries = 1;; ++tries) {
     if (hooks.stop && hooks.stop()) {
       m_lastEnd = GenerateEnd::Stopped;
       return false;
     }
-    if (hooks.maxTries > 0 && tries > hooks.maxTries) {
+    if ((hooks.maxTries > 0 && tries > hooks.maxTries) || (hooks.maxWork > 0 && workDone >= hooks.maxWork)) {
       m_lastEnd = GenerateEnd::GaveUp;
       return false;
     }
     ++m_stats.tries;
-    report(hooks.status, "Reset ... " + NumberText(tries));
-    if (tryOnce(board, work, random, hooks) && complete(board, work, state)) break;
+    m_stats.lastTries = tries;
+    workDone += poolWords + kMaxAttempts;
+    if (hooks.status) hooks.status("Reset ... " + NumberText(tries));
+    if (!tryOnce(board, work, random, hooks) || !complete(board, work, state)) continue;
+    if (!hooks.distinct) {
+      attachClues(state, m_meanings, random);
+      break;
+    }
+    // A puzzle with a repeat counts as a failed try.
+    if (!hasRepeatedWord(state) && attachDistinctClues(state, m_meanings, random)) break;
   }
-  attachClues(state, m_meanings, random);
   m_lastEnd = GenerateEnd::Made;
   return true;
 }
@@ -159,10 +231,11 @@ bool PuzzleGenerator::tryOnce(const Board& board, Work& work, RandomSource& rand
 
       int n = work.outsideCount[hex];
       const std::size_t p = static_cast<std::size_t>(n - 3);
-      const std::string shuffled = shuffleLetters(m_pools[p].at(++work.cursor[p]), random);
+      char shuffled[kShuffleCapacity];
+      shuffleLettersInto(m_pools[p].candidate(++work.cursor[p]), random, shuffled);
       // The shuffled word is laid from its last letter to its first.
       for (std::size_t k = 0; k < Board::kRing && n > 0; ++k) {
-        if (const std::size_t at = work.outside[hex][k]) work.letters[at] = shuffled[static_cast<std::size_t>(--n)];
+        if (const std::size_t at = work.outside[hex][k]) work.letters[at] = shuffled[--n];
       }
 
       int failed = 0;
@@ -183,6 +256,13 @@ bool PuzzleGenerator::verifyAfterPlacing(const Work& work, int placed, int& fail
   const int total = fast ? work.touchedCount[placed] : work.hexCount;
   for (int i = 0; i < total; ++i) {
     const int hex = fast ? work.touched[placed][static_cast<std::size_t>(i)] : i + 1;
+    if (fast && m_byProduct) {
+      std::uint64_t product = 1;
+      for (std::size_t at : work.inside[hex]) product *= m_primeOf[static_cast<unsigned char>(work.letters[at])];
+      if (product == 1 || m_productSet.contains(product)) continue;
+      failed = hex;
+      return false;
+    }
     char letters[Board::kRing];
     const int n = work.insideLetters(hex, letters);
     if (n == 0) continue;
@@ -195,8 +275,7 @@ bool PuzzleGenerator::verifyAfterPlacing(const Work& work, int placed, int& fail
       letters[k] = c;
     }
     const std::string_view key(letters, static_cast<std::size_t>(n));
-    const bool found = fast ? std::binary_search(m_keyPrefixes.begin(), m_keyPrefixes.end(), packUpper(key))
-                            : m_dictionary.SixLetterKeys.containsPrefix(key);
+    const bool found = fast ? m_prefixSet.contains(packUpper(key)) : m_dictionary.SixLetterKeys.containsPrefix(key);
     if (!found) {
       failed = hex;
       return false;

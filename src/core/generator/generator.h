@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "core/files/dictionary.h"
+#include "core/generator/packedset.h"
 #include "core/generator/wordpool.h"
 #include "core/model/board.h"
 #include "core/model/callbacks.h"
@@ -34,12 +35,25 @@ struct GeneratorHooks {
   // pools all hold two words or more can still never make a puzzle of a
   // size; the bound turns that endless search into an answer.
   long long maxTries = 0;
+  // Work for one puzzle before giving up (0: no bound), counted as pool
+  // words shuffled plus candidates laid. Tries of a huge dictionary cost
+  // far more than tries of the game's, so the try bound alone can leave a
+  // hopeless search running for hours; this one ends it in seconds.
+  long long maxWork = 0;
+  // No word twice and no clue text twice in a puzzle: the puzzles made are
+  // those made without this, less the ones with a repeat. A repeated clue
+  // takes another meaning of its word first.
+  bool distinct = false;
 };
 
 // Tries that the game's own dictionary never needs for one puzzle of any
 // size, with a wide margin, so reaching them says the dictionary cannot make
 // puzzles of that size.
 inline constexpr long long kDefaultMaxTries = 20000;
+// Work that the game's dictionary never needs for one puzzle either (about
+// 5,000 of its tries at size 22, where a puzzle takes a few dozen); a few
+// seconds on a slow machine.
+inline constexpr long long kDefaultMaxWork = 50'000'000;
 
 // How the last generate() ended.
 enum class GenerateEnd { Made, CannotGenerate, Stopped, GaveUp };
@@ -48,8 +62,9 @@ enum class GenerateEnd { Made, CannotGenerate, Stopped, GaveUp };
 std::string gaveUpMessage(const std::string& dictionaryPath, int size, long long tries);
 
 struct GenerationStats {
-  long long tries = 0;     // tries started
-  long long attempts = 0;  // candidates laid, over all tries
+  long long tries = 0;      // tries started
+  long long attempts = 0;   // candidates laid, over all tries
+  long long lastTries = 0;  // tries of the last generate()
 };
 
 class PuzzleGenerator {
@@ -63,6 +78,8 @@ class PuzzleGenerator {
   // ever succeed (a pool's last word is never a candidate, and the pools
   // are all checked before every hexagon), so generate() refuses at once.
   bool canGenerate() const;
+  // The same answer for a dictionary, without building a generator.
+  static bool canGenerate(const Dictionary& dictionary);
 
   // Makes a new puzzle on a board already set up for its size: on success
   // the letters, word slots, meaning numbers and clue texts of `state` hold
@@ -91,7 +108,11 @@ class PuzzleGenerator {
   const Meanings& m_meanings;
   GeneratorForm m_form;
   std::array<WordPool, 4> m_pools;
-  std::vector<std::uint64_t> m_keyPrefixes;  // packed upper-case prefixes of the anagram keys, sorted
+  PackedSet m_prefixSet;  // packed upper-case prefixes of the anagram keys
+  // The same prefixes as products of their letters' primes, when that is exact.
+  bool m_byProduct = false;
+  std::array<std::uint64_t, 256> m_primeOf{};
+  PackedSet m_productSet;
   std::vector<std::string> m_summary;
   GenerationStats m_stats;
   GenerateEnd m_lastEnd = GenerateEnd::Made;

@@ -8,21 +8,25 @@
 
 namespace combwise {
 
-std::string shuffleLetters(std::string_view word, RandomSource& random) {
-  constexpr std::size_t kCapacity = 144;
-  const std::size_t length = std::min(word.size(), kCapacity);
-  if (length == 0) return {};
-  std::array<int, kCapacity + 1> buffer{};
-  for (std::size_t i = 1; i <= length; ++i) buffer[i] = static_cast<int>(i);
+std::size_t shuffleLettersInto(std::string_view word, RandomSource& random, char* out) {
+  const std::size_t length = std::min(word.size(), kShuffleCapacity);
+  // Only positions 1..length are ever read, so the rest stays unset.
+  std::array<unsigned char, kShuffleCapacity + 1> buffer;
+  for (std::size_t i = 1; i <= length; ++i) buffer[i] = static_cast<unsigned char>(i);
+  // All positions are drawn first, so the draws run in one tight loop.
+  std::array<unsigned char, 2 * kShuffleCapacity> drawn;
   const double span = static_cast<double>(length);
-  for (std::size_t i = 0; i < length; ++i) {
-    const auto a = static_cast<std::size_t>(floorWhole(random.next() * span + 1));
-    const auto b = static_cast<std::size_t>(floorWhole(random.next() * span + 1));
-    std::swap(buffer[a], buffer[b]);
-  }
-  std::string shuffled(length, ' ');
-  for (std::size_t i = 1; i <= length; ++i) shuffled[i - 1] = word[static_cast<std::size_t>(buffer[i]) - 1];
-  return shuffled;
+  std::size_t d = 0;
+  random.forEachDraw(2 * length,
+                     [&](double draw) { drawn[d++] = static_cast<unsigned char>(floorWhole(draw * span + 1)); });
+  for (std::size_t i = 0; i < length; ++i) std::swap(buffer[drawn[2 * i]], buffer[drawn[2 * i + 1]]);
+  for (std::size_t i = 1; i <= length; ++i) out[i - 1] = word[static_cast<std::size_t>(buffer[i]) - 1];
+  return length;
+}
+
+std::string shuffleLetters(std::string_view word, RandomSource& random) {
+  char letters[kShuffleCapacity];
+  return std::string(letters, shuffleLettersInto(word, random, letters));
 }
 
 std::string remainingLetters(std::string_view word, std::string_view used) {

@@ -14,6 +14,12 @@ namespace combwise {
 // and swapped. Words of more than 144 letters are cut to 144.
 std::string shuffleLetters(std::string_view word, RandomSource& random);
 
+inline constexpr std::size_t kShuffleCapacity = 144;
+
+// The same shuffle written to `out` (room for kShuffleCapacity letters);
+// returns the number of letters written.
+std::size_t shuffleLettersInto(std::string_view word, RandomSource& random, char* out);
+
 // The word with each character of `used` removed once (first occurrence,
 // left to right); characters of `used` not in the word are ignored.
 std::string remainingLetters(std::string_view word, std::string_view used);

@@ -78,7 +78,7 @@ CreateResult PuzzleMaker::create(int size, const std::string& dictionaryPath, co
             "The dictionary " + dictionaryPath + " needs at least two words of each length from 3 to 6 letters"};
   if (!engine.generate(m_board, m_state, random, hooks)) {
     if (engine.lastEnd() == GenerateEnd::GaveUp)
-      return {CreateOutcome::CannotGenerate, gaveUpMessage(dictionaryPath, size, hooks.maxTries)};
+      return {CreateOutcome::CannotGenerate, gaveUpMessage(dictionaryPath, size, engine.stats().lastTries)};
     return {CreateOutcome::CannotGenerate, "Puzzle creation stopped"};
   }
 

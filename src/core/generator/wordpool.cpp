@@ -23,14 +23,28 @@ WordPool::WordPool(const std::vector<std::string>* words) : m_words(words) {
   std::iota(m_order.begin(), m_order.end(), 0);
 
   // Ranks by the case-ignoring order; words equal but for case share one.
+  // The upper-cased texts are made once, not in every comparison.
+  std::vector<std::string> upper;
+  upper.reserve(words->size());
+  for (const std::string& word : *words) upper.push_back(toUpper(word));
   std::vector<int> byWord = m_order;
-  std::stable_sort(byWord.begin(), byWord.end(),
-                   [words](int a, int b) { return SortedKeyList::less((*words)[a], (*words)[b]); });
+  std::stable_sort(byWord.begin(), byWord.end(), [&upper](int a, int b) {
+    return upper[static_cast<std::size_t>(a)] < upper[static_cast<std::size_t>(b)];
+  });
   m_rank.assign(static_cast<std::size_t>(n), 0);
   std::uint32_t rank = 0;
   for (int i = 0; i < n; ++i) {
-    if (i > 0 && SortedKeyList::less((*words)[byWord[i - 1]], (*words)[byWord[i]])) ++rank;
+    if (i > 0 && upper[static_cast<std::size_t>(byWord[i - 1])] != upper[static_cast<std::size_t>(byWord[i])]) ++rank;
     m_rank[static_cast<std::size_t>(byWord[i])] = rank;
+  }
+  if (std::all_of(words->begin(), words->end(), [](const std::string& w) { return w.size() <= kCompactStride; })) {
+    m_compact.assign(words->size() * kCompactStride, 0);
+    m_compactLength.resize(words->size());
+    for (std::size_t i = 0; i < words->size(); ++i) {
+      std::copy((*words)[i].begin(), (*words)[i].end(),
+                m_compact.begin() + static_cast<std::ptrdiff_t>(i * kCompactStride));
+      m_compactLength[i] = static_cast<unsigned char>((*words)[i].size());
+    }
   }
   for (int i = 0; i < n; ++i) m_anagrams[sortedLetters((*words)[static_cast<std::size_t>(i)])].push_back(i);
 }
@@ -70,44 +84,52 @@ void WordPool::shuffleStraightforward(RandomSource& random) {
   for (std::size_t i = 0; i < scratch.size(); ++i) m_order[i] = scratch[i].second;
 }
 
-// The same order from integer keys: key, then word rank, then old
-// position, packed into one 64-bit value each (all three together are
-// distinct, so there is only one order). The keys are uniform, so the values
-// are scattered into buckets by their top part and a final insertion pass
-// puts the few out of place right: linear time instead of a full sort.
+// The same order from integer keys. The words are taken in pool order, so
+// a stable sort by key alone orders them by key, then old position; two
+// counting passes over the key's low and high bits do that in linear time
+// without a single unpredictable branch. Only words that drew the same key
+// (a few dozen in thousands) are then put in word order, stably, since the
+// old position comes last.
 void WordPool::shuffleFast(RandomSource& random) {
   const std::size_t n = m_order.size();
   if (n == 0) return;
+  constexpr unsigned kLowBits = 9;
+  constexpr std::uint32_t kLowMask = (1u << kLowBits) - 1;
+  constexpr std::size_t kHighBuckets = (static_cast<std::size_t>(kKeySpan) >> kLowBits) + 1;
+  constexpr std::uint64_t kWordMask = 0xffffffffu;
+
+  std::array<std::uint32_t, kLowMask + 2> low{};
+  std::array<std::uint32_t, kHighBuckets + 1> high{};
   m_scratch.resize(n);
-  constexpr std::uint64_t kKeyShift = 44;
-  for (std::size_t i = 0; i < n; ++i) {
-    const auto key = static_cast<std::uint64_t>(floorWhole(random.next() * kKeySpan + 1));
-    m_scratch[i] =
-        (key << kKeyShift) | (static_cast<std::uint64_t>(m_rank[static_cast<std::size_t>(m_order[i])]) << 22) | i;
-  }
-
-  // About two buckets per value, chosen by the key's top bits.
-  int shift = 0;
-  while ((static_cast<std::size_t>(kKeySpan) >> (shift + 1)) >= 2 * n) ++shift;
-  const std::size_t buckets = (static_cast<std::size_t>(kKeySpan) >> shift) + 1;
-  const auto bucketOf = [shift](std::uint64_t value) {
-    return static_cast<std::size_t>(value >> (kKeyShift + static_cast<unsigned>(shift)));
-  };
-  m_bucketStart.assign(buckets + 1, 0);
-  for (std::uint64_t value : m_scratch) ++m_bucketStart[bucketOf(value) + 1];
-  for (std::size_t b = 1; b <= buckets; ++b) m_bucketStart[b] += m_bucketStart[b - 1];
   m_sorted.resize(n);
-  for (std::uint64_t value : m_scratch) m_sorted[m_bucketStart[bucketOf(value)]++] = value;
-  for (std::size_t i = 1; i < n; ++i) {
-    const std::uint64_t value = m_sorted[i];
-    std::size_t j = i;
-    for (; j > 0 && m_sorted[j - 1] > value; --j) m_sorted[j] = m_sorted[j - 1];
-    m_sorted[j] = value;
-  }
+  // Each value is the drawn key above the word's index.
+  std::uint64_t* values = m_scratch.data();
+  const int* order = m_order.data();
+  std::size_t i = 0;
+  random.forEachDraw(n, [&](double draw) {
+    const auto key = static_cast<std::uint32_t>(draw * kKeySpan + 1);  // positive, so truncation is the floor
+    values[i] = (static_cast<std::uint64_t>(key) << 32) | static_cast<std::uint32_t>(order[i]);
+    ++i;
+    ++low[(key & kLowMask) + 1];
+    ++high[(key >> kLowBits) + 1];
+  });
+  for (std::size_t b = 1; b < low.size(); ++b) low[b] += low[b - 1];
+  for (std::size_t b = 1; b < high.size(); ++b) high[b] += high[b - 1];
+  std::uint64_t* byLow = m_sorted.data();
+  for (std::size_t k = 0; k < n; ++k) byLow[low[(values[k] >> 32) & kLowMask]++] = values[k];
+  for (std::size_t k = 0; k < n; ++k) values[high[byLow[k] >> (32 + kLowBits)]++] = byLow[k];
 
-  std::vector<int> next(n);
-  for (std::size_t i = 0; i < n; ++i) next[i] = m_order[m_sorted[i] & ((1u << 22) - 1)];
-  m_order.swap(next);
+  for (std::size_t k = 1; k < n; ++k) {
+    if ((values[k] >> 32) != (values[k - 1] >> 32)) continue;
+    const std::size_t first = k - 1;
+    std::size_t last = k + 1;
+    while (last < n && (values[last] >> 32) == (values[first] >> 32)) ++last;
+    std::stable_sort(values + first, values + last, [this](std::uint64_t a, std::uint64_t b) {
+      return m_rank[static_cast<std::size_t>(a & kWordMask)] < m_rank[static_cast<std::size_t>(b & kWordMask)];
+    });
+    k = last - 1;
+  }
+  for (std::size_t k = 0; k < n; ++k) m_order[k] = static_cast<int>(values[k] & kWordMask);
 }
 
 const std::vector<int>& WordPool::positions() const {

@@ -29,6 +29,13 @@ class WordPool {
   const std::string& at(int position) const {
     return (*m_words)[static_cast<std::size_t>(m_order[static_cast<std::size_t>(position)])];
   }
+  // The same word, read from a compact copy of the words that stays in the
+  // fastest cache (the generator reads a candidate every attempt).
+  std::string_view candidate(int position) const {
+    const auto index = static_cast<std::size_t>(m_order[static_cast<std::size_t>(position)]);
+    if (m_compact.empty()) return (*m_words)[index];
+    return std::string_view(m_compact.data() + index * kCompactStride, m_compactLength[index]);
+  }
   // The words in pool order.
   std::vector<std::string> orderedWords() const;
 
@@ -50,13 +57,16 @@ class WordPool {
   void shuffleFast(RandomSource& random);
   const std::vector<int>& positions() const;
 
+  static constexpr std::size_t kCompactStride = 8;
+
   const std::vector<std::string>* m_words;
+  std::vector<char> m_compact;  // the words at a fixed stride, when all are short enough
+  std::vector<unsigned char> m_compactLength;
   std::vector<int> m_order;                                      // pool position -> word index
   std::vector<std::uint32_t> m_rank;                             // word index -> rank by case-ignoring order
   std::unordered_map<std::string, std::vector<int>> m_anagrams;  // sorted letters -> word indexes
   std::vector<std::uint64_t> m_scratch;
   std::vector<std::uint64_t> m_sorted;
-  std::vector<std::size_t> m_bucketStart;
   mutable std::vector<int> m_position;  // word index -> pool position
   mutable bool m_positionsValid = false;
 };

@@ -10,18 +10,6 @@
 namespace combwise {
 namespace {
 
-// The finaliser of SplitMix64: a bijective 64-bit mix with full avalanche.
-constexpr std::uint64_t mix64(std::uint64_t x) {
-  x += 0x9e3779b97f4a7c15ULL;
-  x = (x ^ (x >> 30)) * 0xbf58476d1ce4e5b9ULL;
-  x = (x ^ (x >> 27)) * 0x94d049bb133111ebULL;
-  return x ^ (x >> 31);
-}
-
-}  // namespace
-
-namespace {
-
 // The system clock's time of day. Local midnight is found once and then
 // only the coarse real-time clock is read (a few nanoseconds; its ticks are
 // milliseconds apart, which the draw count mixed into every draw covers);
@@ -47,16 +35,19 @@ RandomSource::RandomSource() : m_clock(timeOfDayClock()) {}
 
 RandomSource RandomSource::timed(std::uint64_t salt) { return RandomSource(timeOfDayClock(), mix64(salt)); }
 
-RandomSource::RandomSource(Clock clock, std::uint64_t salt) : m_clock(std::move(clock)), m_salt(salt) {}
+// Without a clock the reading is always 0, so the seed is known at once.
+RandomSource::RandomSource(Clock clock, std::uint64_t salt)
+    : m_clock(std::move(clock)), m_salt(salt), m_seed(mix64(salt)), m_seedKnown(!m_clock) {}
 
 RandomSource RandomSource::seeded(std::uint64_t seed, std::uint64_t stream) {
   RandomSource source(Clock{}, 0);
   source.m_salt = mix64(mix64(seed) ^ mix64(stream + 0x632be59bd9b4e019ULL));
+  source.m_seed = mix64(source.m_salt);
   return source;
 }
 
-double RandomSource::next() {
-  const std::uint64_t reading = m_clock ? std::bit_cast<std::uint64_t>(m_clock()) : 0;
+double RandomSource::nextTimed() {
+  const std::uint64_t reading = std::bit_cast<std::uint64_t>(m_clock());
   // The seed follows the clock reading; the hash of one reading is kept,
   // since a reading lasts for many draws.
   if (reading != m_lastReading || !m_seedKnown) {
@@ -64,10 +55,7 @@ double RandomSource::next() {
     m_seed = mix64(reading ^ m_salt);
     m_seedKnown = true;
   }
-  // The draw count walks the seed along an odd constant (a full-period
-  // sequence), and the mix spreads every step over all the bits.
-  const std::uint64_t bits = mix64(m_seed + 0xd1b54a32d192ed03ULL * ++m_draws);
-  return static_cast<double>(bits >> 11) * 0x1.0p-53;  // 53 random bits in [0, 1)
+  return unit(mix64(m_seed + kStep * ++m_draws));
 }
 
 double RandomSource::timeOfDay() {

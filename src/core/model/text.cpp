@@ -103,4 +103,40 @@ std::string_view fileNameOf(std::string_view path) {
   return pos == std::string_view::npos ? path : path.substr(pos + 1);
 }
 
+std::string printableText(std::string_view text) {
+  std::string shown;
+  shown.reserve(text.size());
+  for (std::size_t i = 0; i < text.size();) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if (byte < 0x80) {
+      shown += byte < 0x20 || byte == 0x7f ? '?' : static_cast<char>(byte);
+      ++i;
+      continue;
+    }
+    // The length of a UTF-8 sequence from its lead byte, and the smallest
+    // code point it may hold (shorter forms of a point are not valid).
+    const std::size_t length = byte >= 0xc2 && byte <= 0xdf   ? 2
+                               : byte >= 0xe0 && byte <= 0xef ? 3
+                               : byte >= 0xf0 && byte <= 0xf4 ? 4
+                                                              : 0;
+    unsigned point = length == 2 ? byte & 0x1fu : length == 3 ? byte & 0x0fu : byte & 0x07u;
+    bool valid = length > 0 && i + length <= text.size();
+    for (std::size_t k = 1; valid && k < length; ++k) {
+      const auto next = static_cast<unsigned char>(text[i + k]);
+      valid = (next & 0xc0) == 0x80;
+      point = (point << 6) | (next & 0x3fu);
+    }
+    valid = valid && !(length == 3 && point < 0x800) && !(length == 4 && (point < 0x10000 || point > 0x10ffff)) &&
+            !(point >= 0xd800 && point <= 0xdfff) && !(point >= 0x80 && point < 0xa0);
+    if (valid) {
+      shown.append(text.substr(i, length));
+      i += length;
+    } else {
+      shown += '?';
+      ++i;
+    }
+  }
+  return shown;
+}
+
 }  // namespace combwise

@@ -62,4 +62,10 @@ std::string_view trimmed(std::string_view text);
 // neither.
 std::string_view fileNameOf(std::string_view path);
 
+// The text with each control character and each byte that is not part of
+// valid UTF-8 shown as "?", so bytes from a damaged file never reach the
+// screen raw.
+std::string printableText(std::string_view text);
+inline bool isPrintableText(std::string_view text) { return printableText(text) == text; }
+
 }  // namespace combwise

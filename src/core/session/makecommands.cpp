@@ -36,6 +36,7 @@ CommandResult GameSession::create() {
     hooks.events = [this] { m_host.pumpEvents(); };
     hooks.stop = [this] { return m_cancelRequested; };
     hooks.maxTries = kDefaultMaxTries;  // a dictionary that cannot make the size says so
+    hooks.maxWork = kDefaultMaxWork;    // within seconds, however long the dictionary
     made = m_maker.create(size, m_settings.dictionaryPath, meaningsPath(), m_random, hooks, kTemporaryPuzzleFile);
   }
   if (made.created()) {

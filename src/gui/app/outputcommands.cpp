@@ -169,9 +169,12 @@ RangeOutcome OutputCommands::drawRange(PrintTarget& target, int first, int last,
 
 void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last, bool booklet, const QString& title) {
   const RangeOutcome outcome = drawRange(target, first, last, booklet, title);
-  if (!outcome.opened) {
+  if (!outcome.opened || !outcome.written) {
     const QString name = target.printerName();
-    m_window.prompter().ShowMessage(name.isEmpty() ? QString("No printer is installed") : "Cannot print to " + name,
+    const std::string error = target.error();
+    m_window.prompter().ShowMessage(!error.empty()   ? text(error)
+                                    : name.isEmpty() ? QString("No printer is installed")
+                                                     : "Cannot print to " + name,
                                     "vbok+vbcritical");
     return;
   }

@@ -2,35 +2,14 @@
 #include "core/files/cluelisting.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <filesystem>
 
+#include "support/filesizelimit.h"
 #include "support/tempfolder.h"
 
 namespace combwise {
 namespace {
-
-// Files may grow to `bytes` while it lives, as on a full disk.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) {
-    m_signal = std::signal(SIGXFSZ, SIG_IGN);  // a write past it fails instead
-    getrlimit(RLIMIT_FSIZE, &m_old);
-    rlimit limited = m_old;
-    limited.rlim_cur = bytes;
-    setrlimit(RLIMIT_FSIZE, &limited);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &m_old);
-    std::signal(SIGXFSZ, m_signal);
-  }
-
- private:
-  rlimit m_old{};
-  void (*m_signal)(int) = nullptr;
-};
 
 TEST(ClueListingFile, AFailedWriteLeavesNoFileAndKeepsAnOldListingWhole) {
   TempFolder temp;

@@ -58,14 +58,20 @@ TEST_F(SchemeFile, MissingSchemesKeepTheTableAndFallBackWithTheirOwnWords) {
   const auto before = scheme.colours;
   SchemeLoad load = loadOptionsScheme(file, "Blue.col", scheme, designed);  // names match exactly
   EXPECT_EQ(load.message, "Color Scheme: Blue.col not found");
+  EXPECT_EQ(load.detail, file + " holds no scheme Blue.col");
   EXPECT_EQ(load.colour, 0);
   EXPECT_EQ(scheme.name, "default.col");
   EXPECT_EQ(scheme.colours, before);
 
   load = loadStartupScheme(folder.file("none.col"), "blue.col", scheme, designed);
   EXPECT_EQ(load.message, "Colour Scheme: blue.col not found");
+  EXPECT_EQ(load.detail, "Cannot open " + folder.file("none.col") + ": No such file or directory");
   EXPECT_EQ(scheme.name, "xp.col");
   EXPECT_EQ(scheme.colours, before);
+
+  // Bytes that cannot be shown never reach the notice raw.
+  load = loadStartupScheme(file, "\x1b[2J\xff\xc3\xa9.col", scheme, designed);
+  EXPECT_EQ(load.message, "Colour Scheme: ?[2J?\xc3\xa9.col not found");
 }
 
 // Colours 2 and 4 take the designed list-box colour, 3 the form's brush.

@@ -39,7 +39,7 @@ TEST_F(ConfigFile, SavedSettingsReadBackTheSame) {
   saved.BoardFontSize = 10;
   saved.OutlineColour = 255;
   saved.HexNumberColour = 16777215;
-  saved.EntryColour = -3;
+  saved.EntryColour = 3;
   saved.OutlineWidth = 2;
   saved.schemeColour13 = 8421504;
   saved.recentFiles = {{{"/a/one.txt", true}, {"/b/two.txt", true}, {"", false}, {"", false}, {"", false}}};
@@ -48,15 +48,18 @@ TEST_F(ConfigFile, SavedSettingsReadBackTheSame) {
 
   const auto lines = *readLines(folder.file("combwise.cfg"));
   ASSERT_EQ(lines.size(), 10u);
-  EXPECT_EQ(lines[4], " 7  10  255  0  16777215 -3  0  2  8421504 ");
+  EXPECT_EQ(lines[4], " 7  10  255  0  16777215  3  0  2  8421504 ");
   Settings settings = defaults;
   ReadcfgFile(folder.folder(), settings);
   EXPECT_EQ(settings, saved);
 
   std::filesystem::create_directory(folder.file("sub"));
   std::filesystem::create_directory(folder.file("sub/combwise.cfg"));  // a folder where the file should go
-  EXPECT_FALSE(SavecfgFile(folder.file("sub/"), saved).ok());
-  EXPECT_FALSE(std::filesystem::exists(folder.file("sub/combwise.cfg.new")));
+  EXPECT_EQ(SavecfgFile(folder.file("sub/"), saved).error,
+            "Cannot write " + folder.file("sub/combwise.cfg") + ": it is a folder");
+  EXPECT_EQ(SavecfgFile(folder.file("none/"), saved).error,
+            "Cannot write " + folder.file("none/combwise.cfg") + ": No such file or directory");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.file("sub")), {}), 1);
 }
 
 TEST_F(ConfigFile, ReadingStopsAtTheFirstFailureKeepingWhatWasRead) {
@@ -86,6 +89,32 @@ TEST_F(ConfigFile, BlankRecentEntriesAreHiddenWithTheirCaptionKept) {
   EXPECT_EQ(settings.recentFiles[1], (RecentFile{"/a/1.txt", true}));
   EXPECT_FALSE(settings.recentFiles[2].shown || settings.recentFiles[3].shown);
   EXPECT_EQ(settings.recentFiles[4], (RecentFile{"/e/5.txt", true}));
+}
+
+TEST_F(ConfigFile, ImplausibleNumbersAreHeldToTheOptionsRangesAndGarbageIsNoSchemeName) {
+  writeLines(folder.file("combwise.cfg"),
+             {"\x01\xff\xfe\x9b.col", "c", "d", "e", "4 2000 -1 16777216 5 6 7 500 -9", "", "", "", "", ""},
+             WriteMode::Truncate);
+  Settings settings = defaults;
+  const ConfigRead read = ReadcfgFile(folder.folder(), settings);
+  EXPECT_EQ(settings.schemeName, "default.col");
+  EXPECT_EQ(settings.PuzzleNumber, 4);
+  EXPECT_EQ(settings.BoardFontSize, 32);
+  EXPECT_EQ(settings.OutlineColour, 0);
+  EXPECT_EQ(settings.GivenLetterColour, 0xFFFFFF);
+  EXPECT_EQ(settings.HexNumberColour, 5);
+  EXPECT_EQ(settings.OutlineWidth, 20);
+  EXPECT_EQ(settings.schemeColour13, 0);
+  const std::string path = folder.file("combwise.cfg");
+  ASSERT_EQ(read.notes.size(), 6u);
+  EXPECT_EQ(read.notes[0], path + ": line 1 names no colour scheme; default.col is used");
+  EXPECT_EQ(read.notes[1], path + ": the letter font size 2000 is not from 8 to 32; 32 is used");
+  EXPECT_EQ(read.notes[5], path + ": the button colour -9 is not from 0 to 16777215; 0 is used");
+
+  settings = readBack({"blue.col", "c", "d", "e", "1 1 1 1 1 1 1 0 1"});
+  EXPECT_EQ(settings.schemeName, "blue.col");
+  EXPECT_EQ(settings.OutlineWidth, 1);
+  EXPECT_TRUE(ReadcfgFile(folder.file("none/"), settings).notes.empty());  // no file yet is no fault
 }
 
 }  // namespace

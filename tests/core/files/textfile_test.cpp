@@ -5,13 +5,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <fstream>
 
+#include "support/fifo.h"
+#include "support/filesizelimit.h"
 #include "support/tempfolder.h"
 
 namespace combwise {
@@ -55,27 +55,6 @@ TEST(TextFile, WritesCrLfAppendsAndReplacesWithoutLeavingATemporaryFile) {
   EXPECT_FALSE(replaceFileContent(temp.file("no/folder.txt"), "x"));
 }
 
-// Lets a file grow to `bytes` at most while it lives: writes beyond fail the
-// way they fail on a full disk.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) {
-    getrlimit(RLIMIT_FSIZE, &m_old);
-    m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit = m_old;
-    limit.rlim_cur = bytes;
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &m_old);
-    std::signal(SIGXFSZ, m_oldHandler);
-  }
-
- private:
-  rlimit m_old{};
-  void (*m_oldHandler)(int) = nullptr;
-};
-
 TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItWas) {
   TempFolder temp;
   const std::string path = temp.file("set.txt");
@@ -90,12 +69,17 @@ TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItW
     const FileSizeLimit full(before.size() + 10);
     const Status failed = appendLines(path, {std::string(100, 'x')});
     EXPECT_EQ(failed.error, "Cannot write " + path + ": File too large");
-    LineAppender appender(fresh);
-    EXPECT_TRUE(appender.add("short").ok());
-    EXPECT_FALSE(appender.add(std::string(100, 'y')).ok());
+    // A long run is taken back whole: the file is as it was before the run.
+    LineAppender appender(path);
+    EXPECT_TRUE(appender.add("five").ok());
+    EXPECT_EQ(appender.add(std::string(100, 'y')).error,
+              "Cannot write " + path + ": File too large; the line added before it was taken back");
+    LineAppender created(fresh);
+    EXPECT_TRUE(created.add("short").ok());
+    EXPECT_FALSE(created.add(std::string(100, 'y')).ok());
   }
   EXPECT_EQ(TempFolder::contentOf(path), before);
-  EXPECT_EQ(TempFolder::contentOf(fresh), "short\r\n");  // what was written before the failure stays
+  EXPECT_FALSE(std::filesystem::exists(fresh));
 
   // A run that writes nothing leaves no new file behind.
   LineAppender unused(temp.file("unused.txt"));
@@ -109,14 +93,14 @@ TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItW
 
 TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCause) {
   TempFolder temp;
-  const std::string pipe = temp.file("pipe"), file = temp.file("set.txt");
-  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const std::string file = temp.file("set.txt");
+  const Fifo pipe(temp.file("pipe"));
+  ASSERT_TRUE(pipe.made());
   putFile(file, "x\r\n");
   EXPECT_EQ(unreadableReason(temp.file("none.txt")),
             "Cannot open " + temp.file("none.txt") + ": No such file or directory");
   EXPECT_EQ(unreadableReason(temp.folder()), "Cannot open " + temp.folder() + ": it is a folder");
-  EXPECT_EQ(unreadableReason(pipe, true), "Cannot open " + pipe + ": it is not a regular file");
-  EXPECT_EQ(unreadableReason(pipe), std::nullopt);  // read once, a pipe is fine
+  EXPECT_EQ(unreadableReason(pipe.path()), "Cannot open " + pipe.path() + ": it is not a regular file");
   EXPECT_EQ(unreadableReason(""), "Cannot open a file without a name");
   if (geteuid() != 0) {  // root reads anything
     ASSERT_EQ(chmod(file.c_str(), 0), 0);
@@ -140,6 +124,26 @@ TEST(TextFileErrors, AnOutputIsAnInputUnderAnyOtherSpelling) {
   EXPECT_FALSE(outputIsAnInput(temp.file("new.txt"), inputs));  // not there yet
   EXPECT_FALSE(outputIsAnInput(temp.file("sub"), inputs));
   EXPECT_FALSE(outputIsAnInput(input, {}));
+}
+
+TEST(TextFileErrors, APipeIsRefusedWithoutWaitingForItsOtherEnd) {
+  TempFolder temp;
+  const Fifo pipe(temp.file("pipe"));
+  ASSERT_TRUE(pipe.made());
+  const std::string refused = "Cannot open " + pipe.path() + ": it is not a regular file";
+  std::string error;
+  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] {
+    LineReader reader(pipe.path());
+    error = reader.error();
+    EXPECT_FALSE(reader.isOpen() || reader.next());
+  }));
+  EXPECT_EQ(error, refused);
+  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { EXPECT_FALSE(readLines(pipe.path())); }));
+  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { EXPECT_EQ(countLines(pipe.path()), 0); }));
+  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { error = appendLines(pipe.path(), {"x"}).error; }));
+  EXPECT_EQ(error, "Cannot write " + pipe.path() + ": it is not a regular file");
+  // With no reader at the other end a plain write fails at once.
+  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { EXPECT_FALSE(writeLines(pipe.path(), {"x"}, WriteMode::Truncate)); }));
 }
 
 }  // namespace

@@ -83,6 +83,39 @@ TEST(Generator, FastFormMakesTheSamePuzzlesAsTheStraightforwardForm) {
   }
   EXPECT_EQ(fast.stats().attempts, plain.stats().attempts);
   EXPECT_EQ(fast.pool(5).orderedWords(), plain.pool(5).orderedWords());
+
+  // Batch puzzles: many streams, pools back in the dictionary's order.
+  for (std::uint64_t stream = 1; stream <= 12; ++stream) {
+    fast.resetPools();
+    plain.resetPools();
+    RandomSource one = RandomSource::seeded(99, stream);
+    RandomSource two = RandomSource::seeded(99, stream);
+    const int size = Board::kSizes[stream % 4];
+    EXPECT_EQ(makePuzzle(fast, size, one).state.Letters, makePuzzle(plain, size, two).state.Letters) << stream;
+    EXPECT_EQ(fast.summaryLines(), plain.summaryLines());
+  }
+}
+
+// Words of mixed case sort differently before and after upper-casing, which
+// the fast check must notice and still agree with the straightforward one.
+TEST(Generator, FastFormAgreesOnADictionaryOfMixedCase) {
+  TempFolder folder;
+  std::vector<std::string> lines;
+  for (int length = 3; length <= 6; ++length) {
+    const auto& words = gameDictionary().pool(length)->items();
+    for (std::size_t i = 0; i < words.size(); ++i) lines.push_back(i % 3 == 0 ? toLower(words[i]) : words[i]);
+  }
+  ASSERT_TRUE(writeLines(folder.file("mixed.txt"), lines, WriteMode::Truncate));
+  Dictionary dictionary;
+  ASSERT_TRUE(readDictionary(folder.file("mixed.txt"), dictionary).ok());
+  PuzzleGenerator fast(dictionary, gameMeanings(), GeneratorForm::Fast);
+  PuzzleGenerator plain(dictionary, gameMeanings(), GeneratorForm::Straightforward);
+  for (std::uint64_t stream = 1; stream <= 4; ++stream) {
+    RandomSource one = RandomSource::seeded(5, stream);
+    RandomSource two = RandomSource::seeded(5, stream);
+    EXPECT_EQ(makePuzzle(fast, 17, one).state.Letters, makePuzzle(plain, 17, two).state.Letters) << stream;
+    EXPECT_EQ(fast.stats().attempts, plain.stats().attempts);
+  }
 }
 
 TEST(Generator, APoolOfOneWordNeverYieldsACandidateSoNothingIsDrawn) {
@@ -208,6 +241,31 @@ TEST(PuzzleLines, RunsStreamWhateverTheCountAndEndWhenNoPuzzleCanBeMade) {
   const Status gaveUp = appendPuzzleLines(output, dictionary, gameMeanings(), options);
   EXPECT_EQ(gaveUp.error, "The dictionary handful.txt cannot make puzzles of size 7: no puzzle after 20 tries");
   EXPECT_FALSE(std::filesystem::exists(output));  // no empty file left behind
+}
+
+// Eight words repeated to a million lines: every try shuffles a million
+// pool entries, so the try bound alone would run for hours. The work bound
+// gives up long before, with the same message.
+TEST(PuzzleLines, AHugeDictionaryThatCannotMakeTheSizeGivesUpOnItsWorkBound) {
+  TempFolder folder;
+  const std::vector<std::string> words{"TEA", "EAT", "SEAT", "EATS", "TEARS", "STARE", "MASTER", "STREAM"};
+  std::vector<std::string> lines;
+  for (int i = 0; i < 1000000; ++i) lines.push_back(words[static_cast<std::size_t>(i) % words.size()]);
+  const std::string path = folder.file("million.txt");
+  ASSERT_TRUE(writeLines(path, lines, WriteMode::Truncate));
+  Dictionary dictionary;
+  ASSERT_TRUE(readDictionary(path, dictionary).ok());
+
+  LineRunOptions options;
+  options.size = 7;
+  options.maxTries = kDefaultMaxTries;
+  options.maxWork = kDefaultMaxWork;
+  options.dictionaryPath = path;
+  const std::string output = folder.file("out.txt");
+  const Status gaveUp = appendPuzzleLines(output, dictionary, gameMeanings(), options);
+  const long long tries = kDefaultMaxWork / 1000000;
+  EXPECT_EQ(gaveUp.error, gaveUpMessage(path, 7, tries));
+  EXPECT_FALSE(std::filesystem::exists(output));
 }
 
 }  // namespace

@@ -1,0 +1,99 @@
+// Files written whole or not at all: a full disk met at any write leaves
+// the old file and no temporary file, and says why.
+#include "core/files/atomicfile.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+
+#include "support/fifo.h"
+#include "support/tempfolder.h"
+
+namespace combwise {
+namespace {
+
+long filesIn(const std::string& folder) {
+  return static_cast<long>(std::distance(std::filesystem::directory_iterator(folder), {}));
+}
+
+// A disk with room for `room` more bytes.
+AtomicFile::WriteFunction diskWithRoom(std::size_t room) {
+  return [room](int fd, const char* data, std::size_t size) mutable -> ssize_t {
+    if (room == 0) {
+      errno = ENOSPC;
+      return -1;
+    }
+    const std::size_t taken = std::min(size, room);
+    room -= taken;
+    return ::write(fd, data, taken);
+  };
+}
+
+TEST(AtomicFile, ReplacesTheTargetWholeKeepingItsModeAndWritesThroughALink) {
+  TempFolder temp;
+  const std::string path = temp.file("p.pdf");
+  ASSERT_TRUE(writeFileAtomically(path, "old").ok());
+  ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
+  AtomicFile file(path);
+  ASSERT_TRUE(file.open().ok());
+  const std::string big(200000, 'x');  // more than one buffer
+  EXPECT_TRUE(file.write("head ") && file.write(big) && file.write(" tail"));
+  EXPECT_EQ(TempFolder::contentOf(path), "old");  // nothing shows until the commit
+  ASSERT_TRUE(file.commit().ok());
+  EXPECT_EQ(TempFolder::contentOf(path), "head " + big + " tail");
+  struct stat info {};
+  ASSERT_EQ(::stat(path.c_str(), &info), 0);
+  EXPECT_EQ(info.st_mode & 0777, 0640u);
+
+  const std::string link = temp.file("link.pdf");
+  std::filesystem::create_symlink(path, link);
+  ASSERT_TRUE(writeFileAtomically(link, "new").ok());
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_EQ(TempFolder::contentOf(path), "new");
+  EXPECT_EQ(filesIn(temp.folder()), 2);
+}
+
+TEST(AtomicFile, AFullDiskAtAnyWriteLeavesTheOldFileAndSaysWhy) {
+  TempFolder temp;
+  const std::string path = temp.file("p.pdf");
+  const std::string content(150000, 'y');
+  for (const std::size_t room : {std::size_t{0}, std::size_t{1000}, content.size() - 1}) {
+    ASSERT_TRUE(writeFileAtomically(path, "old").ok());
+    AtomicFile file(path, diskWithRoom(room));
+    ASSERT_TRUE(file.open().ok());
+    file.write(content);
+    EXPECT_EQ(file.commit().error, "Cannot write " + path + ": No space left on device") << room;
+    EXPECT_EQ(TempFolder::contentOf(path), "old") << room;
+    EXPECT_EQ(filesIn(temp.folder()), 1) << room;
+  }
+  // A file abandoned before its commit leaves nothing either.
+  { AtomicFile(temp.file("new.pdf")).write("partial"); }
+  EXPECT_EQ(filesIn(temp.folder()), 1);
+}
+
+TEST(AtomicFile, TargetsThatCannotBeWrittenAreRefusedWithTheirCause) {
+  TempFolder temp;
+  const Fifo pipe(temp.file("pipe"));
+  ASSERT_TRUE(pipe.made());
+  std::string error;
+  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { error = writeFileAtomically(pipe.path(), "x").error; }));
+  EXPECT_EQ(error, "Cannot write " + pipe.path() + ": it is not a regular file");
+  EXPECT_EQ(writeFileAtomically(temp.folder(), "x").error, "Cannot write " + temp.folder() + ": it is a folder");
+  EXPECT_EQ(writeFileAtomically(temp.file("no/p.pdf"), "x").error,
+            "Cannot write " + temp.file("no/p.pdf") + ": No such file or directory");
+  if (::geteuid() != 0) {  // root writes anywhere
+    std::filesystem::create_directory(temp.file("ro"));
+    ASSERT_EQ(::chmod(temp.file("ro").c_str(), 0555), 0);
+    EXPECT_EQ(writeFileAtomically(temp.file("ro/p.pdf"), "x").error,
+              "Cannot write " + temp.file("ro/p.pdf") + ": Permission denied");
+  }
+  EXPECT_EQ(filesIn(temp.folder()), 1 + (::geteuid() != 0 ? 1 : 0));
+}
+
+}  // namespace
+}  // namespace combwise
