@@ -86,7 +86,8 @@ TEST(PrintedClues, AListingTallerThanThePageGoesOnWithTheHeaderRepeatedAndLosesN
   state.WordCount = 44;
   state.PuzzleNumber = 7;
   for (int k = 1; k <= 44; ++k)
-    state.ClueTexts[static_cast<std::size_t>(k)] = "clue " + std::to_string(k) + " is long enough to wrap onto a second line";
+    state.ClueTexts[static_cast<std::size_t>(k)] =
+        "clue " + std::to_string(k) + " is long enough to wrap onto a second line";
   const CharMeasure measure;
   // A column of 40 characters; every entry takes two lines and the gap (248).
   constexpr double kBottom = 4000;
