@@ -138,6 +138,8 @@ CommandResult GameSession::makeBatch(const std::function<void(int made)>& progre
         m_programFolder, options,
         [this, &progress](int count) {
           if (progress) progress(count);
+          // Replaces the word files' reading status, which is long over.
+          m_host.progress("Making a batch of puzzles ...");
           m_host.pumpEvents();
         },
         [this](const std::string& status) {
