@@ -46,6 +46,86 @@ std::string_view cutRunOnExample(std::string_view part) {
   return part;
 }
 
+void addForm(std::vector<std::string>& forms, std::string form) {
+  if (form.size() < 3) return;  // two-letter "bases" such as "it" of "its" are other words
+  if (std::find(forms.begin(), forms.end(), form) == forms.end()) forms.push_back(std::move(form));
+}
+
+// Endings that make relatives of a word: inflections and the common
+// derivational suffixes. Every ending that fits is taken off in turn, so
+// "admiration" gives "admir" (-ation) as well as "admirat" (-ion).
+constexpr std::string_view kEndings[] = {
+    "ations", "ically", "ively", "iness", "ation", "ition", "tions", "sions", "ments", "ivity", "ities",
+    "ously",  "iest",   "ions",  "tion",  "sion",  "ment",  "ness",  "ists",  "isms",  "able",  "ably",
+    "ible",   "ally",   "ical",  "ance",  "ence",  "ency",  "ancy",  "ship",  "hood",  "less",  "ants",
+    "ing",    "ers",    "ors",   "est",   "ies",   "ied",   "ier",   "ily",   "ion",   "ive",   "ist",
+    "ism",    "ity",    "ous",   "ful",   "als",   "ial",   "ics",   "ant",   "ent",   "age",   "ure",
+    "ery",    "ish",    "ize",   "ise",   "ess",   "let",   "es",    "ed",    "er",    "or",    "ly",
+    "al",     "ic",     "ee",    "en",    "et",    "y",     "s"};
+
+void addUnique(std::vector<std::string>& list, std::string item) {
+  if (std::find(list.begin(), list.end(), item) == list.end()) list.push_back(std::move(item));
+}
+
+// What is left of `w` after taking off one ending; "ies", "ied", "ier",
+// "iest", "ily" and "iness" leave the "y" they replaced ("happiness" gives
+// "happy"). With `bareE`, a final "e" counts as an ending too.
+void addStripped(std::vector<std::string>& roots, const std::string& w, bool bareE) {
+  const auto strip = [&](std::string_view ending) {
+    if (w.size() <= ending.size() || !w.ends_with(ending)) return;
+    std::string root = w.substr(0, w.size() - ending.size());
+    if (ending.front() == 'i' && (ending == "ies" || ending == "ied" || ending == "ier" || ending == "iest" ||
+                                  ending == "ily" || ending == "iness"))
+      root += 'y';
+    // "wiper" and "wipes" both come from "wipe".
+    const bool vowelEnding = std::string_view("aeiou").find(ending.front()) != std::string_view::npos;
+    if (vowelEnding && root.size() >= 3 && !isVowel(root.back()) && root.back() != 'y') addUnique(roots, root + 'e');
+    addUnique(roots, std::move(root));
+  };
+  for (const std::string_view ending : kEndings) strip(ending);
+  if (bareE) strip("e");
+}
+
+// The word, what is left after taking off one or two endings, and the
+// spelling changes that join relatives: y and i (happy, happiness), c and s
+// (advice, advise), d and s (decide, decision), a dropped final e.
+std::vector<std::string> roots(std::string_view word, bool bareE) {
+  std::vector<std::string> result{std::string(word)};
+  addStripped(result, std::string(word), bareE);
+  const std::size_t once = result.size();
+  for (std::size_t i = 1; i < once; ++i) addStripped(result, std::string(result[i]), bareE);
+  const std::size_t stripped = result.size();
+  for (std::size_t i = 0; i < stripped; ++i) {
+    const std::string root = result[i];
+    if (root.size() < 2) continue;
+    const std::string butLast = root.substr(0, root.size() - 1);
+    switch (root.back()) {
+      case 'y':
+        addUnique(result, butLast + 'i');
+        break;
+      case 'i':
+        addUnique(result, butLast + 'y');
+        break;
+      case 'c':
+      case 'd':
+        addUnique(result, butLast + 's');
+        break;
+      case 'e':
+        if (bareE) addUnique(result, butLast);
+        break;
+      default:
+        break;
+    }
+  }
+  return result;
+}
+
+bool contains(const std::vector<std::string>& list, std::string_view item) {
+  return std::find(list.begin(), list.end(), item) != list.end();
+}
+
+}  // namespace
+
 std::vector<std::string> lowerWords(std::string_view text) {
   std::vector<std::string> words;
   std::string word;
@@ -61,12 +141,43 @@ std::vector<std::string> lowerWords(std::string_view text) {
   return words;
 }
 
-void addForm(std::vector<std::string>& forms, std::string form) {
-  if (form.size() < 3) return;  // two-letter "bases" such as "it" of "its" are other words
-  if (std::find(forms.begin(), forms.end(), form) == forms.end()) forms.push_back(std::move(form));
+bool sharesRoot(std::string_view word, std::string_view other) {
+  // A root that counts has three letters or more, of which at least the
+  // first two begin its word: most pairs end here.
+  if (word.size() < 3 || other.size() < 3 || word.substr(0, 2) != other.substr(0, 2)) return false;
+  if (word == other) return true;
+  const std::vector<std::string> wordRoots = roots(word, true);
+  const std::vector<std::string> otherRoots = roots(other, true);
+  for (const std::string& root : wordRoots) {
+    if (!contains(otherRoots, root)) continue;
+    // A three-letter root is too often a chance likeness ("rats" and
+    // "ration"), unless it is the word itself or both words are long enough
+    // to be built on it ("active" and "action").
+    if (root.size() < 3 || (root.size() < 4 && root != word && (word.size() < 6 || other.size() < 6))) continue;
+    // "plan" is no relative of "plane", nor "car" of "care".
+    if (root == other && !contains(roots(word, false), root)) continue;
+    if (root == word && !contains(roots(other, false), root)) continue;
+    return true;
+  }
+  return false;
 }
 
-}  // namespace
+bool isCompoundOf(std::string_view word, std::string_view other, const std::function<bool(std::string_view)>& isWord) {
+  if (word.size() < 4 || other.size() < word.size() + 2) return false;
+  const auto known = [&](std::string_view part) {
+    if (part.size() < 3) return false;
+    if (isWord(part)) return true;
+    return part.size() > 3 && part.ends_with('s') && isWord(part.substr(0, part.size() - 1));
+  };
+  // The word or one of its roots: "railway" shows "rails" and "paperlike"
+  // shows "papery".
+  for (const std::string& base : roots(word, false)) {
+    if (base.size() < 4) continue;
+    if (other.starts_with(base) && known(other.substr(base.size()))) return true;
+    if (other.ends_with(base) && known(other.substr(0, other.size() - base.size()))) return true;
+  }
+  return false;
+}
 
 std::string cleanGloss(std::string_view gloss) {
   std::string kept;

@@ -2,6 +2,7 @@
 // that is offensive or that gives the answer away is not used at all.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,5 +31,23 @@ std::vector<std::string> obviousForms(std::string_view word);
 // True when one of `forms` (lower case) stands in `text` as a whole word,
 // case ignored. Words are runs of letters: "cat's" and "cat-like" show "cat".
 bool showsAnyForm(std::string_view text, const std::vector<std::string>& forms);
+
+// The words of a text in lower case: runs of letters a to z.
+std::vector<std::string> lowerWords(std::string_view text);
+
+// True when `other` is a relative of `word` (both lower case) that a reader
+// would take for a hint: the two share a root once endings are taken off
+// ("abuser" and "abuses", "admire" and "admiration", "act" and "action",
+// "snowy" and "snow", "advise" and "advice"). A root shorter than four
+// letters counts only when it is the whole three-letter word or both words
+// have six letters or more, and a root that is a word of its own counts
+// only when no bare final "e" had to go to reach it, so "car" and "care",
+// "plane" and "plan" stay apart.
+bool sharesRoot(std::string_view word, std::string_view other);
+
+// True when `other` is `word`, or a root of it of at least four letters,
+// joined to another word of three letters or more that `isWord` knows:
+// "sandpaper" for sand, "warehouse" for house, "railway" for rails.
+bool isCompoundOf(std::string_view word, std::string_view other, const std::function<bool(std::string_view)>& isWord);
 
 }  // namespace combwise::wordconv

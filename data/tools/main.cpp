@@ -1,6 +1,6 @@
 // wordconv: writes english3.txt, mean3456.txt and the WordNet licence into
 // the program folder at build time.
-//   wordconv WORD_LIST WORDNET_FOLDER OUTPUT_FOLDER
+//   wordconv WORD_LIST WORDNET_FOLDER CRUDE_WORDS OUTPUT_FOLDER
 #include <chrono>
 #include <cstdio>
 #include <string>
@@ -20,10 +20,11 @@ int fail(const std::string& message) {
 
 int main(int argc, char** argv) {
   using namespace combwise::wordconv;
-  if (argc != 4) return fail("usage: wordconv WORD_LIST WORDNET_FOLDER OUTPUT_FOLDER");
+  if (argc != 5) return fail("usage: wordconv WORD_LIST WORDNET_FOLDER CRUDE_WORDS OUTPUT_FOLDER");
   const std::string wordListPath = argv[1];
   const std::string wordnetFolder = argv[2];
-  const std::string outputFolder = argv[3];
+  const std::string crudePath = argv[3];
+  const std::string outputFolder = argv[4];
   const auto start = std::chrono::steady_clock::now();
 
   const auto wordList = readWholeFile(wordListPath);
@@ -35,7 +36,12 @@ int main(int argc, char** argv) {
   const std::vector<std::string> licence = licenceSource ? licenceLines(*licenceSource) : std::vector<std::string>{};
   if (licence.empty()) return fail("no licence text at the head of " + wordnetFolder + "/index.noun");
 
-  const Conversion conversion = convertWords(candidateWords(*wordList), *wordnet);
+  const auto crudeText = readWholeFile(crudePath);
+  if (!crudeText) return fail("cannot read the list of crude words " + crudePath);
+  const auto crudeWords = parseCrudeWords(*crudeText, error);
+  if (!crudeWords) return fail(crudePath + ": " + error);
+
+  const Conversion conversion = convertWords(candidateWords(*wordList), *wordnet, *crudeWords);
   const auto write = [&](const std::string& name, const std::vector<std::string>& lines) {
     const std::string path = outputFolder + "/" + name;
     if (writeCrLfLines(path, lines)) return true;
@@ -48,7 +54,7 @@ int main(int argc, char** argv) {
   }
 
   const auto elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-  std::printf("wordconv: english3.txt and mean3456.txt written in %.2f s\n%s", elapsed,
-              countReport(countByLength(conversion)).c_str());
+  std::printf("wordconv: english3.txt and mean3456.txt written in %.2f s\n%s%s", elapsed,
+              dropReport(conversion.counts).c_str(), countReport(countByLength(conversion)).c_str());
   return 0;
 }

@@ -36,11 +36,9 @@ bool isBannedDomain(const Synset& domain) {
   });
 }
 
-// Words that WordNet leaves unmarked in some of their crude or slurring
-// senses, which no clue makes fit for a family puzzle.
-constexpr std::array<std::string_view, 18> kUnprintable = {"bugger", "clit",   "crap",   "cunt", "dyke", "fag",
-                                                           "faggot", "fuck",   "goddam", "gook", "homo", "piss",
-                                                           "porn",   "retard", "shit",   "slut", "twat", "whore"};
+bool isPlainWord(std::string_view text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+}
 
 }  // namespace
 
@@ -101,45 +99,127 @@ std::vector<Sense> senseOrder(const std::vector<IndexEntry>& entries) {
   return senses;
 }
 
-std::string clueFor(std::string_view word, const Synset& synset, const WordNetData& wordnet,
-                    const std::vector<std::string>& answerForms) {
+std::string_view senseDropName(SenseDrop drop) {
+  switch (drop) {
+    case SenseDrop::Instance:
+      return "a particular person, place or work";
+    case SenseDrop::ProperName:
+      return "a proper name or abbreviation";
+    case SenseDrop::UsageDomain:
+      return "offensive or abbreviation usage";
+    case SenseDrop::OffensiveGloss:
+      return "gloss marked offensive";
+    case SenseDrop::AdultGloss:
+      return "gloss about sex";
+    case SenseDrop::ShowsForm:
+      return "gloss shows the word";
+    case SenseDrop::SharesRoot:
+      return "gloss shows a relative";
+    case SenseDrop::Compound:
+      return "gloss shows a compound";
+    case SenseDrop::NoDefinition:
+      return "gloss without a definition";
+  }
+  return {};
+}
+
+SenseVerdict judgeSense(std::string_view word, const Synset& synset, const WordNetData& wordnet,
+                        const std::vector<std::string>& answerForms) {
+  const auto dropped = [](SenseDrop drop) { return SenseVerdict{{}, drop}; };
   const auto lemma = std::find_if(synset.lemmas.begin(), synset.lemmas.end(),
                                   [&](const std::string& l) { return equalsIgnoringCase(l, word); });
+  const bool instance = std::any_of(synset.pointers.begin(), synset.pointers.end(),
+                                    [](const Pointer& pointer) { return pointer.symbol == "@i"; });
+  if (instance) return dropped(SenseDrop::Instance);
   // "Crane" the poet or "DNA": the lower-case word is another word.
-  if (lemma == synset.lemmas.end() || hasCapital(*lemma)) return {};
+  if (lemma == synset.lemmas.end() || hasCapital(*lemma)) return dropped(SenseDrop::ProperName);
   const int lemmaNumber = static_cast<int>(lemma - synset.lemmas.begin()) + 1;
 
   for (const Pointer& pointer : synset.pointers) {
-    if (pointer.symbol == "@i") return {};
     if (pointer.symbol != ";u") continue;
     if (pointer.sourceWord != 0 && pointer.sourceWord != lemmaNumber) continue;
     const auto domain = wordnet.synset(pointer.part, pointer.offset);
-    if (domain && isBannedDomain(*domain)) return {};
+    if (domain && isBannedDomain(*domain)) return dropped(SenseDrop::UsageDomain);
   }
 
   std::string clue = cleanGloss(synset.gloss);
-  if (clue.empty() || hasOffensiveMarker(clue) || isAdultGloss(clue) || showsAnyForm(clue, answerForms)) return {};
-  return clue;
+  if (clue.empty()) return dropped(SenseDrop::NoDefinition);
+  if (hasOffensiveMarker(clue)) return dropped(SenseDrop::OffensiveGloss);
+  if (isAdultGloss(clue)) return dropped(SenseDrop::AdultGloss);
+  if (showsAnyForm(clue, answerForms)) return dropped(SenseDrop::ShowsForm);
+  const std::vector<std::string> glossWords = lowerWords(clue);
+  if (std::any_of(glossWords.begin(), glossWords.end(),
+                  [&](const std::string& other) { return sharesRoot(word, other); }))
+    return dropped(SenseDrop::SharesRoot);
+  const auto isWord = [&](std::string_view part) { return wordnet.hasLemma(part); };
+  if (std::any_of(glossWords.begin(), glossWords.end(),
+                  [&](const std::string& other) { return isCompoundOf(word, other, isWord); }))
+    return dropped(SenseDrop::Compound);
+  return {std::move(clue), std::nullopt};
 }
 
-Conversion convertWords(const std::vector<std::string>& candidates, const WordNetData& wordnet, int maxClues) {
+std::optional<std::vector<std::string>> parseCrudeWords(std::string_view text, std::string& error) {
+  std::vector<std::string> words;
+  int lineNumber = 0;
+  while (!text.empty()) {
+    const auto end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    ++lineNumber;
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    if (line.find_first_not_of(" \t") == std::string_view::npos || line.front() == '#') continue;
+    const auto blank = line.find_first_of(" \t");
+    const std::string_view word = line.substr(0, blank);
+    const bool hasNote =
+        blank != std::string_view::npos && line.find_first_not_of(" \t", blank) != std::string_view::npos;
+    if (!isPlainWord(word) || !hasNote) {
+      error = "line " + std::to_string(lineNumber) + " is not a lower-case word followed by a note";
+      return std::nullopt;
+    }
+    words.emplace_back(word);
+  }
+  std::sort(words.begin(), words.end());
+  return words;
+}
+
+Conversion convertWords(const std::vector<std::string>& candidates, const WordNetData& wordnet,
+                        const std::vector<std::string>& crudeWords, int maxClues) {
   Conversion result;
+  ConversionCounts& counts = result.counts;
   for (const std::string& word : candidates) {
-    if (std::find(kUnprintable.begin(), kUnprintable.end(), word) != kUnprintable.end()) continue;
+    ++counts.candidates;
     const std::vector<IndexEntry> entries = wordnet.entries(word);
-    if (entries.empty()) continue;
+    if (entries.empty()) {
+      ++counts.unknown;
+      continue;
+    }
+    if (std::find(crudeWords.begin(), crudeWords.end(), word) != crudeWords.end()) {
+      ++counts.crude;
+      continue;
+    }
     std::vector<std::string> forms = obviousForms(word);
     for (std::string& form : wordnet.irregularForms(word)) forms.push_back(std::move(form));
 
+    // Every sense is judged, so the counts do not depend on how many clues
+    // a word keeps.
     std::vector<std::string> clues;
     for (const Sense& sense : senseOrder(entries)) {
-      if (static_cast<int>(clues.size()) >= maxClues) break;
       const auto synset = wordnet.synset(sense.part, sense.offset);
       if (!synset) continue;
-      std::string clue = clueFor(word, *synset, wordnet, forms);
-      if (!clue.empty() && std::find(clues.begin(), clues.end(), clue) == clues.end()) clues.push_back(std::move(clue));
+      ++counts.sensesJudged;
+      SenseVerdict verdict = judgeSense(word, *synset, wordnet, forms);
+      if (verdict.drop) {
+        ++counts.dropped[static_cast<std::size_t>(*verdict.drop)];
+        continue;
+      }
+      if (static_cast<int>(clues.size()) < maxClues &&
+          std::find(clues.begin(), clues.end(), verdict.clue) == clues.end())
+        clues.push_back(std::move(verdict.clue));
     }
-    if (clues.empty()) continue;
+    if (clues.empty()) {
+      ++counts.withoutClue;
+      continue;
+    }
 
     std::string upperWord(word);
     std::transform(upperWord.begin(), upperWord.end(), upperWord.begin(), upper);
@@ -151,6 +231,24 @@ Conversion convertWords(const std::vector<std::string>& candidates, const WordNe
   // together ("CAT:..." before "CATS:...").
   std::sort(result.meanings.begin(), result.meanings.end());
   return result;
+}
+
+std::string dropReport(const ConversionCounts& counts) {
+  std::string report;
+  char row[96];
+  const auto add = [&](std::string_view what, int count) {
+    std::snprintf(row, sizeof row, "%-46.*s %6d\n", static_cast<int>(what.size()), what.data(), count);
+    report += row;
+  };
+  add("candidate words", counts.candidates);
+  add("  not in WordNet", counts.unknown);
+  add("  on the list of crude words", counts.crude);
+  add("  left without a usable sense", counts.withoutClue);
+  add("senses judged", counts.sensesJudged);
+  for (std::size_t kind = 0; kind < kSenseDropKinds; ++kind) {
+    add("  dropped: " + std::string(senseDropName(static_cast<SenseDrop>(kind))), counts.dropped[kind]);
+  }
+  return report;
 }
 
 LengthCounts countByLength(const Conversion& conversion) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,9 +22,41 @@ struct Sense {
   std::uint32_t offset = 0;
 };
 
+// Why a sense gives no clue. A sense is counted under the first that
+// applies, in this order.
+enum class SenseDrop {
+  Instance,        // one particular person, place or work
+  ProperName,      // the lemma is written with capitals: a name or abbreviation
+  UsageDomain,     // WordNet files it under obscenity, disparagement, ethnic slur, abbreviation, ...
+  OffensiveGloss,  // the gloss calls itself offensive, vulgar, obscene, disparaging, a slur
+  AdultGloss,      // the gloss is about sex
+  ShowsForm,       // the gloss holds the answer or an inflected form of it
+  SharesRoot,      // the gloss holds a relative of the answer: abuser, abuses
+  Compound,        // the gloss holds the answer joined to another word: sandpaper
+  NoDefinition,    // nothing is left of the gloss once its examples are gone
+};
+constexpr std::size_t kSenseDropKinds = 9;
+std::string_view senseDropName(SenseDrop drop);
+
+// A sense's clue, or why it has none.
+struct SenseVerdict {
+  std::string clue;
+  std::optional<SenseDrop> drop;
+};
+
+struct ConversionCounts {
+  int candidates = 0;                          // plain words of 3 to 6 letters in the word list
+  int unknown = 0;                             // of them, not in WordNet
+  int crude = 0;                               // on the list of crude words
+  int withoutClue = 0;                         // left without a single usable sense
+  int sensesJudged = 0;                        // senses of the remaining words
+  std::array<int, kSenseDropKinds> dropped{};  // senses dropped, by SenseDrop
+};
+
 struct Conversion {
   std::vector<std::string> dictionary;  // upper-case words in alphabetical order
   std::vector<std::string> meanings;    // "WORD:clue" lines in binary order
+  ConversionCounts counts;
 };
 
 struct LengthCounts {
@@ -41,16 +74,25 @@ std::vector<std::string> candidateWords(std::string_view wordListText);
 // A word's senses over all its parts of speech, most common first.
 std::vector<Sense> senseOrder(const std::vector<IndexEntry>& entries);
 
-// The clue a sense gives for `word` (lower case), or an empty text when the
-// sense is unfit: an instance (one particular person, place or work), a
-// proper name or abbreviation, an offensive or abbreviation usage, an
-// offensive gloss, or a gloss that shows one of `answerForms`.
-std::string clueFor(std::string_view word, const Synset& synset, const WordNetData& wordnet,
-                    const std::vector<std::string>& answerForms);
+// The clue a sense gives for `word` (lower case), or the reason it gives
+// none. `answerForms` are the word's inflected forms (obviousForms and the
+// irregular ones).
+SenseVerdict judgeSense(std::string_view word, const Synset& synset, const WordNetData& wordnet,
+                        const std::vector<std::string>& answerForms);
 
-// Up to `maxClues` distinct clues per candidate word in sense order.
+// The words of a list of crude words: one word a line, lower case, followed
+// by a note on why it is there; blank lines and lines starting with "#" are
+// comments. Nothing, with `error` naming the line, when a line has another
+// form.
+std::optional<std::vector<std::string>> parseCrudeWords(std::string_view text, std::string& error);
+
+// Up to `maxClues` distinct clues per candidate word in sense order; words
+// of `crudeWords` are left out whatever their senses.
 Conversion convertWords(const std::vector<std::string>& candidates, const WordNetData& wordnet,
-                        int maxClues = kDefaultMaxClues);
+                        const std::vector<std::string>& crudeWords = {}, int maxClues = kDefaultMaxClues);
+
+// What was left out and why, for the build log.
+std::string dropReport(const ConversionCounts& counts);
 
 LengthCounts countByLength(const Conversion& conversion);
 // A small table of the counts per length and in total.

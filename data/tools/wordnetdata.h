@@ -64,6 +64,8 @@ class WordNetData {
 
   // The index lines of a lemma (lower case), one per part of speech it has.
   std::vector<IndexEntry> entries(std::string_view lemma) const;
+  // True when the lemma (lower case, "_" for blanks) has an index line.
+  bool hasLemma(std::string_view lemma) const { return m_index.contains(lemma); }
   std::optional<Synset> synset(PartOfSpeech part, std::uint32_t offset) const;
   // Irregular forms of a lemma and the bases it is an irregular form of
   // ("run" gives "ran"; "mice" gives "mouse").

@@ -1,9 +1,10 @@
 // The pdf command: the pages the game's range printing makes (each puzzle's
 // sheet with its small solved board, and optionally its clue listing on the
-// next page), drawn by the game's own page code into a PDF file. Qt runs
-// offscreen, so no display is needed.
+// pages after it), or the booklet for handing out, drawn by the game's own
+// page code into a PDF file. Qt runs offscreen, so no display is needed.
 #include <QGuiApplication>
 #include <memory>
+#include <optional>
 #include <ostream>
 
 #include "cli/args.h"
@@ -16,6 +17,7 @@
 #include "core/model/text.h"
 #include "core/play/printrange.h"
 #include "render/boardpainter.h"
+#include "render/bookletprinter.h"
 #include "render/pdftarget.h"
 #include "render/rangeprinter.h"
 
@@ -23,12 +25,18 @@ namespace combwise::cli {
 namespace {
 
 constexpr const char* kPdfHelp =
-    "Usage: combwise-cli pdf FILE RANGE --output OUT.pdf [--clues]\n"
+    "Usage: combwise-cli pdf FILE RANGE --output OUT.pdf [--clues] [--paper A4|Letter]\n"
+    "       combwise-cli pdf FILE RANGE --output OUT.pdf --booklet [--title T] [--paper A4|Letter]\n"
     "\n"
     "Prints puzzles of the collection FILE to the PDF file OUT.pdf, one page\n"
     "each: the puzzle to solve with its solved board below, as the game\n"
     "prints them. RANGE is N, N-M or all; a range ending past the last puzzle\n"
-    "stops there. --clues adds each puzzle's clue listing on the next page.\n"
+    "stops there. --clues adds each puzzle's clue listing on the pages after it.\n"
+    "\n"
+    "--booklet prints a booklet for handing out instead: a page for each puzzle\n"
+    "with its board and its clues, headed by the title T (default \"Combwise\n"
+    "puzzles\") and the puzzle's number, then the answer keys.\n"
+    "--paper chooses the paper (default A4).\n"
     "The letter font, its size and the border width come from the program\n"
     "folder's configuration.\n";
 
@@ -48,6 +56,13 @@ class OffscreenQt {
   std::unique_ptr<QGuiApplication> m_app;
 };
 
+std::optional<QPageSize::PageSizeId> paperOf(const std::string& name) {
+  const QString paper = QString::fromStdString(name);
+  if (paper.compare("A4", Qt::CaseInsensitive) == 0) return QPageSize::A4;
+  if (paper.compare("Letter", Qt::CaseInsensitive) == 0) return QPageSize::Letter;
+  return std::nullopt;
+}
+
 // configFolder: the folder that holds the configuration in use.
 PrintLook lookOf(const std::string& configFolder) {
   Settings settings;
@@ -63,7 +78,7 @@ PrintLook lookOf(const std::string& configFolder) {
 }  // namespace
 
 int runPdf(Context& context, const Arguments& args) {
-  ParsedArgs parsed = parseArgs(args, {"--output"}, {"--clues", "--help"});
+  ParsedArgs parsed = parseArgs(args, {"--output", "--title", "--paper"}, {"--clues", "--booklet", "--help"});
   if (parsed.has("--help")) {
     context.out << kPdfHelp;
     return 0;
@@ -71,6 +86,13 @@ int runPdf(Context& context, const Arguments& args) {
   const auto output = parsed.value("--output");
   if (parsed.error.empty() && parsed.positional.size() != 2) parsed.error = "give a collection FILE and a RANGE";
   if (parsed.error.empty() && (!output || output->empty())) parsed.error = "--output is required";
+  const std::string paperName = parsed.value("--paper").value_or("A4");
+  const std::optional<QPageSize::PageSizeId> paper = paperOf(paperName);
+  if (parsed.error.empty() && !paper) parsed.error = "--paper must be A4 or Letter, not " + paperName;
+  if (parsed.error.empty() && parsed.has("--booklet") && parsed.has("--clues"))
+    parsed.error = "--booklet has the clues on its pages already; leave out --clues";
+  if (parsed.error.empty() && parsed.value("--title") && !parsed.has("--booklet"))
+    parsed.error = "--title is for --booklet";
   if (!parsed.error.empty()) {
     context.err << "combwise-cli pdf: " << parsed.error << "\n\n" << kPdfHelp;
     return 2;
@@ -107,9 +129,13 @@ int runPdf(Context& context, const Arguments& args) {
     }
     return PagePuzzle{board, state, look};
   };
-  PdfTarget pdf(QString::fromStdString(*output));
+  PdfTarget pdf(QString::fromStdString(*output), *paper);
+  const int first = range.range->first;
+  const int last = range.range->last;
   const RangeOutcome printed =
-      PrintPuzzleRange(pdf, range.range->first, range.range->last, count, load, parsed.has("--clues"));
+      parsed.has("--booklet") ? PrintBooklet(pdf, first, last, count, load,
+                                             QString::fromStdString(parsed.value("--title").value_or(kBookletTitle)))
+                              : PrintPuzzleRange(pdf, first, last, count, load, parsed.has("--clues"));
   if (!printed.opened || !printed.written) {
     // Nothing was left behind: the file appears only when written in full.
     context.err << "combwise-cli pdf: " << (pdf.error().empty() ? "Cannot write " + *output : pdf.error()) << "\n";

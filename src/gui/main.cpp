@@ -52,7 +52,9 @@ int main(int argc, char* argv[]) {
   const QCommandLineOption screenshot(
       "screenshot", "Start as usual, save the window to FILE (PNG) once the first board is drawn, and exit.", "FILE");
   const QCommandLineOption reveal("reveal", "With --screenshot: fill in the first N hexagons as a player would.", "N");
-  parser.addOptions({help, showVersion, home, screenshot, reveal});
+  const QCommandLineOption saveOptions("save-options",
+                                       "With --screenshot: then save the settings as Save Options does.");
+  parser.addOptions({help, showVersion, home, screenshot, reveal, saveOptions});
   acceptToolkitOptions(parser);
   parser.addPositionalArgument("collection", "With --screenshot: the collection to show.", "[COLLECTION [N]]");
 
@@ -94,7 +96,8 @@ int main(int argc, char* argv[]) {
       const int number = positional.size() > 1 ? positional.at(1).toInt() : 1;
       window.setStartCollection(positional.at(0).toStdString(), number);
     }
-    combwise::scheduleScreenshot(window, {parser.value(screenshot), parser.value(reveal).toInt()});
+    combwise::scheduleScreenshot(window,
+                                 {parser.value(screenshot), parser.value(reveal).toInt(), parser.isSet(saveOptions)});
   }
   window.show();
   return QApplication::exec();

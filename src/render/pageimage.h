@@ -1,23 +1,25 @@
 // The printed page as a picture for the clipboard: the header and the
 // puzzle sheet (or, for the solution, the sheet with every letter), cut to
-// a size that follows the grid and the screen's cell.
+// what is drawn plus a small white margin, so a small puzzle gives a small
+// picture.
 #pragma once
 
 #include <QImage>
+#include <QPoint>
 
 #include "render/printedpage.h"
 
 namespace combwise {
 
-// Where the picture draws the page.
+// Where the page is drawn before it is cut: the header goes 400 above
+// the board.
 inline constexpr int kImageLeft = 0;
 inline constexpr int kImageTop = 500;
+// The white border around the drawing, in pixels.
+inline constexpr int kImageMargin = 12;
 
-// The picture's size in twips: (columns + 1) x (screen cell width x 1.4)
-// by (rows + 2) x (screen cell height x 1.25).
-QSizeF pageImageTwips(const PagePuzzle& puzzle);
-
-// White, at the screen's 96 dots per inch.
-QImage pageImage(const PagePuzzle& puzzle, LetterMode letters);
+// White, at the screen's dots per inch. `pageOrigin`, when given, receives
+// where the page's (0, 0) lies in the picture, in pixels.
+QImage pageImage(const PagePuzzle& puzzle, LetterMode letters, QPoint* pageOrigin = nullptr);
 
 }  // namespace combwise

@@ -3,7 +3,6 @@
 
 #include <QFileInfo>
 #include <QPageLayout>
-#include <QPageSize>
 
 #include "core/files/atomicfile.h"
 
@@ -30,7 +29,8 @@ class AtomicFileDevice : public QIODevice {
 
 }  // namespace
 
-PdfTarget::PdfTarget(QString path, int resolution) : m_path(std::move(path)), m_resolution(resolution) {}
+PdfTarget::PdfTarget(QString path, QPageSize::PageSizeId paper, int resolution)
+    : m_path(std::move(path)), m_paper(paper), m_resolution(resolution) {}
 
 PdfTarget::~PdfTarget() { endDocument(); }
 
@@ -55,7 +55,7 @@ QPainter* PdfTarget::beginDocument() {
   m_writer->setResolution(m_resolution);
   m_writer->setCreator("Combwise");
   // Positions are measured from the paper's edge, as on a printer used full page.
-  m_writer->setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
+  m_writer->setPageLayout(QPageLayout(QPageSize(m_paper), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
   m_painter = std::make_unique<QPainter>();
   if (!m_painter->begin(m_writer.get())) {
     m_error =

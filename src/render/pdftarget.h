@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QIODevice>
+#include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
 #include <memory>
@@ -18,8 +19,9 @@ class AtomicFile;
 // a folder that cannot be written leaves no file (or the old one) behind.
 class PdfTarget : public PrintTarget {
  public:
-  // A4 pages at `resolution` dots per inch, drawn from the paper's edge.
-  explicit PdfTarget(QString path, int resolution = 600);
+  // Pages of `paper` (A4 unless told) at `resolution` dots per inch, drawn
+  // from the paper's edge.
+  explicit PdfTarget(QString path, QPageSize::PageSizeId paper = QPageSize::A4, int resolution = 600);
   ~PdfTarget() override;
 
   QString printerName() const override;
@@ -35,6 +37,7 @@ class PdfTarget : public PrintTarget {
 
  private:
   QString m_path;
+  QPageSize::PageSizeId m_paper;
   int m_resolution;
   std::string m_error;
   std::unique_ptr<AtomicFile> m_file;

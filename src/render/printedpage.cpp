@@ -3,6 +3,8 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include "core/model/text.h"
 #include "core/play/layout.h"
@@ -37,19 +39,21 @@ void printLine(QPainter& painter, Twips twips, double x, double y, const QString
   painter.drawText(QPointF(x / twips.perPixelX, y / twips.perPixelY + metrics.ascent()), line);
 }
 
-void drawBoard(QPainter& painter, const PagePuzzle& puzzle, int left, int top, int solution, LetterMode letters) {
+void drawBoard(QPainter& painter, const PagePuzzle& puzzle, double left, double top, double scale, LetterMode letters,
+               double minimumPoints = 0) {
   const Twips twips = Twips::of(*painter.device());
-  const double scale = solution == 1 ? 1.0 / kSolvedBoardScale : 1.0;
   const int cellWidth = static_cast<int>(roundHalfEven(kPrintCellWidth * scale));
   const int cellHeight = static_cast<int>(roundHalfEven(kPrintCellHeight * scale));
   const Board& board = puzzle.board;
-  const BoardLayout layout = LayOutBoard({board.size(), board.rows(), board.cols(), cellWidth, cellHeight,
-                                          twips.perPixelX, twips.perPixelY, left, top});
-  const QFont font = boardFont(puzzle.look.fontName, (puzzle.look.fontSize > 0 ? puzzle.look.fontSize : 10) * scale);
+  const BoardLayout layout =
+      LayOutBoard({board.size(), board.rows(), board.cols(), cellWidth, cellHeight, twips.perPixelX, twips.perPixelY,
+                   static_cast<int>(std::lround(left)), static_cast<int>(std::lround(top))});
+  const double points = std::max((puzzle.look.fontSize > 0 ? puzzle.look.fontSize : 10) * scale, minimumPoints);
+  const QFont font = boardFont(puzzle.look.fontName, points);
   const QtTextMeasure measure(font, painter.device(), twips);
   const int border = puzzle.look.outlineWidth > 0 ? puzzle.look.outlineWidth : 2;
   // The solved board keeps its numbers too: they tie it to the sheet's clues.
-  const SceneOptions options{solution == 1 ? LetterMode::Solution : letters, 2 * border, 0, true};
+  const SceneOptions options{letters, 2 * border, 0, true};
   const BoardScene scene = buildBoardScene(board, puzzle.state, layout, options, measure);
   paintBoardScene(painter, scene, printColours(), font, twips, paperPenScale(twips) * std::max(scale, 0.5));
 }
@@ -60,21 +64,27 @@ QString puzzleHeader(const PagePuzzle& puzzle) {
   return text(pageHeader(puzzle.look.banner, puzzle.state.PuzzleNumber) + ":" + puzzle.state.CollectionPath);
 }
 
-void PrintPuzzle(QPainter& target, const PagePuzzle& puzzle, int left, int top, int solution,
-                 LetterMode sheetLetters) {
+void PrintPuzzle(QPainter& target, const PagePuzzle& puzzle, int left, int top, int solution, LetterMode sheetLetters) {
   if (puzzle.board.size() < 0) return;
   if (solution == 0) {
     target.save();
     target.setPen(Qt::black);
     target.setFont(boardFont(puzzle.look.fontName, 7));
-    printLine(target, Twips::of(*target.device()), left + puzzle.look.screenCellWidth, top - 400,
-              puzzleHeader(puzzle));
+    printLine(target, Twips::of(*target.device()), left + puzzle.look.screenCellWidth, top - 400, puzzleHeader(puzzle));
     target.restore();
   }
-  drawBoard(target, puzzle, left, top, solution, sheetLetters);
+  drawBoard(target, puzzle, left, top, solution == 1 ? 1.0 / kSolvedBoardScale : 1.0,
+            solution == 1 ? LetterMode::Solution : sheetLetters);
 }
 
-void PrintClueList(QPainter& target, const PagePuzzle& puzzle, int left, int top) {
+void PrintBoardAt(QPainter& target, const PagePuzzle& puzzle, double left, double top, double scale, LetterMode letters,
+                  double minimumPoints) {
+  if (puzzle.board.size() < 0) return;
+  drawBoard(target, puzzle, left, top, scale, letters, minimumPoints);
+}
+
+void PrintClueList(QPainter& target, const PagePuzzle& puzzle, int left, int top,
+                   const std::function<void()>& newPage) {
   const Twips twips = Twips::of(*target.device());
   target.save();
   target.setRenderHint(QPainter::TextAntialiasing, true);
@@ -106,7 +116,12 @@ void PrintClueList(QPainter& target, const PagePuzzle& puzzle, int left, int top
   // Clues wrap as the screen board's font measures them, so paper and
   // screen break the same clue at the same words.
   const QtTextMeasure wrapMeasure(puzzle.look.wrapFont, nullptr, Twips{15, 15});
-  for (const SheetLine& line : layOutPrintedClues(puzzle.state, puzzle.look.banner, wrapMeasure, heights, left, top)) {
+  const double pageBottom = newPage ? target.device()->height() * twips.perPixelY - kClueListBottomMargin
+                                    : std::numeric_limits<double>::max();
+  int page = 0;
+  for (const SheetLine& line :
+       layOutPrintedClues(puzzle.state, puzzle.look.banner, wrapMeasure, heights, left, top, pageBottom)) {
+    for (; page < line.page; ++page) newPage();
     target.setFont(fontOf(line.font));
     printLine(target, twips, line.x, line.y, text(line.text));
   }

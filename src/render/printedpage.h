@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QString>
+#include <functional>
 
 #include "core/files/cluelisting.h"
 #include "core/model/board.h"
@@ -28,8 +29,8 @@ struct PrintLook {
   int outlineWidth = 2;        // the hexagon border width; outlines print twice as wide
   int screenCellWidth = 225;   // the screen board's cell: the header starts one cell in
   int screenCellHeight = 375;
-  ListingBanner banner;      // product name and the maker's site text
-  QFont wrapFont;            // the screen board's font, which clue wrapping measures with
+  ListingBanner banner;  // product name and the maker's site text
+  QFont wrapFont;        // the screen board's font, which clue wrapping measures with
 };
 
 // What a page shows: a puzzle as the window or the tool holds it.
@@ -50,8 +51,19 @@ QString puzzleHeader(const PagePuzzle& puzzle);
 void PrintPuzzle(QPainter& target, const PagePuzzle& puzzle, int left, int top, int solution,
                  LetterMode sheetLetters = LetterMode::Sheet);
 
+// A board alone with its grid's top-left corner at (left, top), its cells
+// `scale` times the print cell and its letters at least `minimumPoints`.
+void PrintBoardAt(QPainter& target, const PagePuzzle& puzzle, double left, double top, double scale, LetterMode letters,
+                  double minimumPoints = 0);
+
+// The clue listing's bottom margin: no line passes the paper's height less this.
+inline constexpr int kClueListBottomMargin = 1200;
+
 // The clue listing: banner, collection and number, then the inside and the
-// outside clues, each wrapped to its column.
-void PrintClueList(QPainter& target, const PagePuzzle& puzzle, int left, int top);
+// outside clues, each wrapped to its column. A listing longer than the
+// page goes on after `newPage` (which turns the target's page) with the
+// header repeated; without `newPage` it is drawn on one tall surface.
+void PrintClueList(QPainter& target, const PagePuzzle& puzzle, int left, int top,
+                   const std::function<void()>& newPage = {});
 
 }  // namespace combwise

@@ -4,6 +4,7 @@
 // commands and the command-line tool never need a human at a print dialog.
 #pragma once
 
+#include <QMarginsF>
 #include <QString>
 #include <string>
 
@@ -33,6 +34,9 @@ class PrintTarget {
   // After a failed begin or end: what went wrong, naming the file and the
   // cause where there is one; empty when nothing is known.
   virtual std::string error() const { return {}; }
+
+  // How far in from the paper's edges the device can print, in twips.
+  virtual QMarginsF printableMargins() const { return {}; }
 };
 
 }  // namespace combwise

@@ -28,7 +28,7 @@ RangeOutcome PrintPuzzleRange(PrintTarget& target, int first, int last, int coun
       PrintPuzzle(*painter, *page, kPageLeft, kRangeSolvedTop, 1);
       if (withClues) {
         if (!nextPage()) break;
-        PrintClueList(*painter, *page, kClueListLeft, kClueListTop);
+        PrintClueList(*painter, *page, kClueListLeft, kClueListTop, [&] { target.newPage(); });
       }
       ++outcome.printed;
     }

@@ -14,6 +14,7 @@
 #include <memory>
 #include <sstream>
 
+#include "core/files/config.h"
 #include "core/files/textfile.h"
 #include "support/fifo.h"
 #include "support/filesizelimit.h"
@@ -196,7 +197,10 @@ TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
 TEST(CliCheck, AnUnfitDictionaryOrMeaningsFileIsReportedOnce) {
   TempFolder temp;
   const std::string collection = temp.file("set.txt");
-  ASSERT_EQ(cli({"create", "--size", "10", "--count", "3", "--seed", "2", "--output", collection}).status, 0);
+  // Distinct, so that check has nothing to say of the puzzles themselves
+  // whatever words the dictionary holds.
+  ASSERT_EQ(cli({"create", "--size", "10", "--count", "3", "--seed", "2", "--distinct", "--output", collection}).status,
+            0);
   const std::string sevens = temp.file("sevens.txt");
   ASSERT_TRUE(writeLines(sevens, {"SEVENTH", "LETTERS"}, WriteMode::Truncate));
   ASSERT_TRUE(writeLines(temp.file("mean3456.txt"), {"ZOO:a park", "TEA:a drink"}, WriteMode::Truncate));
@@ -273,6 +277,66 @@ TEST(CliPdf, ARangePrintsOnePageAPuzzleStoppingAtTheEndCluesAddAPageAndBadRanges
   EXPECT_EQ(cli({"pdf", collection, "1"}).status, 2);  // no --output
   EXPECT_EQ(cli({"pdf", collection, "1", "--output", collection}).status, 1);
   EXPECT_FALSE(std::filesystem::exists(none));
+}
+
+TEST(CliPdf, ABookletHasAPagePerPuzzleThenItsKeysOnTheChosenPaper) {
+  TempFolder temp;
+  const std::string collection = temp.file("set.txt");
+  ASSERT_EQ(cli({"create", "--size", "10", "--count", "3", "--seed", "8", "--output", collection}).status, 0);
+  for (const auto& [paper, size] : {std::pair{"Letter", "612 x 792 pts (letter)"}, std::pair{"A4", "(A4)"}}) {
+    const std::string pdf = temp.file(std::string("booklet-") + paper + ".pdf");
+    const CliRun run =
+        cli({"pdf", collection, "all", "--output", pdf, "--booklet", "--title", "Class 4b", "--paper", paper});
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(pages(pdf), 3 + 1) << paper;
+    EXPECT_THAT(commandOutput("pdfinfo '" + pdf + "'"), HasSubstr(size));
+    const std::string text = commandOutput("pdftotext '" + pdf + "' -");
+    for (const char* expected : {"Class 4b", "Puzzle 3", "Inside clues", "Outside clues", "Answers", "Page 4 of 4"})
+      EXPECT_THAT(text, HasSubstr(expected)) << paper;
+  }
+  const std::string none = temp.file("none.pdf");
+  EXPECT_EQ(cli({"pdf", collection, "1", "--output", none, "--booklet", "--paper", "A5"}).status, 2);
+  EXPECT_EQ(cli({"pdf", collection, "1", "--output", none, "--title", "T"}).status, 2);
+  EXPECT_FALSE(std::filesystem::exists(none));
+}
+
+// Words only, so a clue wrapped over lines on paper compares with its
+// one-line form in the text file.
+std::string wordsOf(const std::string& text) {
+  std::istringstream in(text);
+  std::string words;
+  for (std::string word; in >> word;) words += word + " ";
+  return words;
+}
+
+TEST(CliPdf, ALargeFontListingOfTheBiggestPuzzleKeepsEveryClueOnA4AndLetter) {
+  TempFolder home;
+  for (const char* name : {"english3.txt", "mean3456.txt"})
+    std::filesystem::copy_file(std::string(COMBWISE_BIN_DIR) + "/" + name, home.file(name));
+  Settings settings;
+  settings.boardFontName = "DejaVu Sans";
+  settings.BoardFontSize = 14;
+  ASSERT_TRUE(SavecfgFile(home.folder(), settings).ok());
+  const std::string collection = home.file("big.txt");
+  ASSERT_EQ(
+      cli({"create", "--size", "22", "--count", "1", "--seed", "3", "--output", collection}, home.folder()).status, 0);
+  const std::string listing = home.file("clues.txt");
+  ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}, home.folder()).status, 0);
+  const auto lines = *readLines(listing);
+  ASSERT_GE(lines.size(), 48u);
+
+  for (const char* paper : {"A4", "Letter"}) {
+    const std::string pdf = home.file(std::string("clues-") + paper + ".pdf");
+    const CliRun run = cli({"pdf", collection, "1", "--output", pdf, "--clues", "--paper", paper}, home.folder());
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_GE(pages(pdf), 3) << paper << ": the listing takes more than one page";
+    // pdftotext drops text that lies below the paper's edge.
+    const std::string printed = wordsOf(commandOutput("pdftotext -layout '" + pdf + "' -"));
+    for (const std::string& line : lines) {
+      if (line.find(". ") != 3) continue;  // the clue entries: " 01. clue"
+      EXPECT_THAT(printed, HasSubstr(wordsOf(line))) << paper;
+    }
+  }
 }
 
 struct ToolRun {

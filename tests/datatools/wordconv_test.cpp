@@ -158,7 +158,71 @@ TEST(ConvertWords, KeepsUpToThreePrintableCluesThatHideTheAnswer) {
   EXPECT_TRUE(counts.words[4] == 1 && counts.words[5] == 5 && counts.totalWords() == 7);
   EXPECT_TRUE(counts.meanings[5] == 9 && counts.totalMeanings() == 11);
 
-  EXPECT_THAT(convertWords({"jolly"}, wordnet, 1).meanings, ElementsAre("JOLLY:full of merriment"));
+  EXPECT_THAT(convertWords({"jolly"}, wordnet, {}, 1).meanings, ElementsAre("JOLLY:full of merriment"));
+}
+
+TEST(AnswerRelatives, ShareARootButNotAChanceLikeness) {
+  using Pair = std::pair<const char*, const char*>;
+  for (const auto& [word, other] :
+       {Pair{"abuser", "abuses"}, Pair{"admire", "admiration"}, Pair{"abort", "abortion"}, Pair{"advise", "advice"},
+        Pair{"act", "action"}, Pair{"snowy", "snow"}, Pair{"wiper", "wipes"}, Pair{"active", "action"},
+        Pair{"decide", "decision"}, Pair{"merry", "merriment"}, Pair{"gently", "gentle"}})
+    EXPECT_TRUE(sharesRoot(word, other)) << word << " / " << other;
+  for (const auto& [word, other] :
+       {Pair{"art", "start"}, Pair{"art", "party"}, Pair{"car", "care"}, Pair{"plane", "plan"}, Pair{"cat", "catalog"},
+        Pair{"ration", "rats"}, Pair{"planet", "plant"}, Pair{"brand", "branch"}, Pair{"pen", "pencil"}})
+    EXPECT_FALSE(sharesRoot(word, other)) << word << " / " << other;
+
+  const auto isWord = [](std::string_view part) { return part == "paper" || part == "way" || part == "ware"; };
+  EXPECT_TRUE(isCompoundOf("sand", "sandpaper", isWord) && isCompoundOf("rails", "railway", isWord) &&
+              isCompoundOf("house", "warehouse", isWord));
+  // Three-letter words make too many chance compounds (car and carpet).
+  EXPECT_FALSE(isCompoundOf("art", "artware", isWord) || isCompoundOf("sand", "sandal", isWord) ||
+               isCompoundOf("tile", "tilepapers", [](std::string_view) { return false; }));
+}
+
+TEST(ConvertWords, DropsGiveawayAndCrudeSensesKeepingTheCleanOnes) {
+  const std::string noun =
+      "00000100 18 n 01 abuser 0 000 | someone who abuses  \n"
+      "00000200 18 n 01 abuser 0 000 | a cruel and wicked person  \n"
+      "00000300 18 n 01 sand 0 000 | rub with sandpaper  \n"
+      "00000400 18 n 01 sand 0 000 | fine grains of rock  \n"
+      "00000500 18 n 01 admirer 0 000 | one who feels admiration  \n"
+      "00000600 18 n 01 dolt 0 000 | a stupid despised man  \n"
+      "00000700 18 n 01 paper 0 000 | a material made of cellulose pulp  \n"
+      "00000800 10 n 01 derogation 0 000 | a remark that belittles  \n"
+      "00000900 18 n 01 cad 0 001 ;u 00000800 n 0000 | a man of low morals  \n";
+  const std::string index =
+      "abuser n 2 0 2 0 00000100 00000200  \n"
+      "admirer n 1 0 1 0 00000500  \n"
+      "cad n 1 0 1 0 00000900  \n"
+      "dolt n 1 0 1 0 00000600  \n"
+      "paper n 1 0 1 0 00000700  \n"
+      "sand n 2 0 2 0 00000300 00000400  \n";
+  WordNetData wordnet;
+  wordnet.addPart(PartOfSpeech::Noun, index, noun);
+  const Conversion result = convertWords({"abuser", "admirer", "cad", "dolt", "sand"}, wordnet, {"dolt"});
+
+  // admirer loses its only sense and with it its place in the dictionary;
+  // cad's sense belongs to a disparaging usage; dolt is on the crude list.
+  EXPECT_THAT(result.dictionary, ElementsAre("ABUSER", "SAND"));
+  EXPECT_THAT(result.meanings, ElementsAre("ABUSER:a cruel and wicked person", "SAND:fine grains of rock"));
+  const ConversionCounts& counts = result.counts;
+  const auto dropped = [&](SenseDrop drop) { return counts.dropped[static_cast<std::size_t>(drop)]; };
+  EXPECT_TRUE(counts.candidates == 5 && counts.crude == 1 && counts.withoutClue == 2 && counts.sensesJudged == 6);
+  EXPECT_TRUE(dropped(SenseDrop::SharesRoot) == 2 && dropped(SenseDrop::Compound) == 1 &&
+              dropped(SenseDrop::UsageDomain) == 1);
+}
+
+TEST(CrudeWords, EveryWordCarriesANote) {
+  std::string error;
+  const auto words = parseCrudeWords("# why\n\nwhore   disparaging\r\nfucker\tobscene\n", error);
+  ASSERT_TRUE(words) << error;
+  EXPECT_THAT(*words, ElementsAre("fucker", "whore"));
+  for (const char* bad : {"fucker\n", "Fucker obscene\n", "ok fine\nbad-word why\n"}) {
+    EXPECT_FALSE(parseCrudeWords(bad, error)) << bad;
+    EXPECT_THAT(error, ::testing::StartsWith("line ")) << bad;
+  }
 }
 
 }  // namespace

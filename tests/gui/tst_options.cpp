@@ -3,7 +3,9 @@
 // handing over a choice whose settings survive the configuration file.
 #include <QComboBox>
 #include <QFile>
+#include <QFontDatabase>
 #include <QLabel>
+#include <QListWidget>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -92,9 +94,27 @@ class TestOptions : public QObject {
     QCOMPARE(form.picker()->BackColor(), QColor(32, 30, 36));
     QVERIFY(m_prompter.notices.isEmpty());
     form.chooseScheme("gone");
-    QCOMPARE(m_prompter.notices, QStringList{"Color Scheme: gone.col not found"});
+    // The notice names the scheme file that lacks it.
+    QCOMPARE(m_prompter.notices,
+             QStringList{"Color Scheme: gone.col not found\n" + folder() + "all.col holds no scheme gone.col"});
     QCOMPARE(form.picker()->BackColor(), QColor(0, 0, 0));
     QCOMPARE(m_scheme, ColourScheme{});  // the window's scheme waits for Apply
+  }
+
+  void theFontListLeavesOutSymbolFontsAndFontsWithoutLatinLetters() {
+    Form2 form(m_settings, m_scheme, folder(), m_prompter);
+    const auto* list = child<QListWidget>(form, "lstFonts");
+    QStringList listed;
+    for (int i = 0; i < list->count(); ++i) listed << list->item(i)->text();
+    QVERIFY(!listed.isEmpty());
+    int leftOut = 0;
+    for (const QString& family : QFontDatabase::families()) {
+      const auto systems = QFontDatabase::writingSystems(family);
+      const bool letters = systems.contains(QFontDatabase::Latin) && !systems.contains(QFontDatabase::Symbol);
+      QVERIFY2(listed.contains(family) == letters, qPrintable(family));
+      leftOut += letters ? 0 : 1;
+    }
+    if (leftOut == 0) QSKIP("no symbol fonts installed to leave out");
   }
 
   void applyWritesTheSettingsAndTheConfigurationKeepsThem() {

@@ -3,13 +3,16 @@
 // pictures, and the collection tools.
 #include <QAbstractButton>
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QProcess>
+#include <QTimer>
 #include <QtTest>
+#include <functional>
 #include <memory>
 
 #include "core/play/layout.h"
@@ -53,7 +56,7 @@ class TestOutput : public QObject {
       if (!QTest::qWaitFor([this] { return window->startedUp(); })) return false;
       output = window->findChild<OutputCommands*>();
       printer = std::make_unique<PdfTarget>(folder.path("printer.pdf"));
-      if (output) output->setServices({printer.get(), &clipboard, {}});
+      if (output) output->setServices({printer.get(), &clipboard, {}, {}});
       return output != nullptr;
     }
     void trigger(const QString& name) const { window->findChild<QAction*>(name)->trigger(); }
@@ -82,7 +85,7 @@ class TestOutput : public QObject {
 
   // Dark pixels in the letter slot of ring position k of hexagon n on the
   // page picture, where the sheet's board is drawn at the print cell size.
-  static int darkPixelsInLetter(const QImage& image, const MainWindow& window, int n, int k) {
+  static int darkPixelsInLetter(const QImage& image, QPoint origin, const MainWindow& window, int n, int k) {
     const Board& board = window.board();
     const double twips = 1440.0 / image.logicalDpiX();
     const BoardLayout page = LayOutBoard({board.size(), board.rows(), board.cols(), kPrintCellWidth, kPrintCellHeight,
@@ -90,10 +93,28 @@ class TestOutput : public QObject {
     const int x = page.cellX(board.HexRow(n), board.HexCol(n)) + page.LetterDX[k];
     const int y = page.cellY(board.HexRow(n), board.HexCol(n)) + page.LetterDY[k];
     int dark = 0;
-    for (int px = qRound((x + 10) / twips); px <= qRound((x + 130) / twips); ++px)
-      for (int py = qRound((y + 40) / twips); py <= qRound((y + 220) / twips); ++py)
+    for (int px = origin.x() + qRound((x + 10) / twips); px <= origin.x() + qRound((x + 130) / twips); ++px)
+      for (int py = origin.y() + qRound((y + 40) / twips); py <= origin.y() + qRound((y + 220) / twips); ++py)
         if (image.rect().contains(px, py) && qGray(image.pixel(px, py)) < 96) ++dark;
     return dark;
+  }
+
+  // A PDF file that answers as a system without printers does.
+  class NoPrinter : public PdfTarget {
+   public:
+    using PdfTarget::PdfTarget;
+    QString printerName() const override { return {}; }
+  };
+
+  // Runs `act` on the print range window once it is open; the window is
+  // closed if `act` leaves it open.
+  static void onPrintWindow(const std::function<void(QWidget&)>& act) {
+    QTimer::singleShot(0, [act] {
+      QWidget* form = QApplication::activeModalWidget();
+      if (!form) return;
+      if (form->objectName() == "PrntForm") act(*form);
+      if (form->isVisible()) form->close();
+    });
   }
 
  private slots:
@@ -114,6 +135,36 @@ class TestOutput : public QObject {
     QCOMPARE(game.prompter.messages.last().style, QString("vbinformation+vbok"));
     QCOMPARE(game.window->puzzle().PuzzleNumber, 2);
     QCOMPARE(game.window->layout().CellWidth, cellWidth);
+  }
+
+  void aFileThatCannotBeWrittenInFullSaysWhyInsteadOfCountingPages() {
+    // Draws as a file would, then fails at the end as on a full disk.
+    class FullDisk : public PrintTarget {
+     public:
+      QString printerName() const override { return "full.pdf"; }
+      QString choosePrinter(QWidget*) override { return {}; }
+      QPainter* beginDocument() override {
+        m_painter = std::make_unique<QPainter>(&m_page);
+        return m_painter.get();
+      }
+      bool newPage() override { return true; }
+      bool endDocument() override {
+        m_painter.reset();
+        return false;
+      }
+      std::string error() const override { return "Cannot write D/full.pdf: No space left on device"; }
+
+     private:
+      QImage m_page{200, 300, QImage::Format_RGB32};
+      std::unique_ptr<QPainter> m_painter;
+    };
+    Game game;
+    QVERIFY(game.start());
+    FullDisk target;
+    game.output->printPuzzleRange(target, 1, 2);
+    QCOMPARE(game.prompter.messages.last().prompt, QString("Cannot write D/full.pdf: No space left on device"));
+    QCOMPARE(game.prompter.messages.last().style, QString("vbok+vbcritical"));
+    QCOMPARE(game.window->puzzle().PuzzleNumber, 2);
   }
 
   void thePrintWindowsRangeCanGoToAPdfFile() {
@@ -146,6 +197,91 @@ class TestOutput : public QObject {
     QCOMPARE(pageCount(pdf), 2);
     QVERIFY(!QFile::exists(game.folder.path("printer.pdf")));
     QCOMPARE(game.prompter.messages.last().prompt, QString("2 puzzles printed"));
+  }
+
+  void withoutAPrinterThePrintCommandsSaySoAndOfferAPdfFile() {
+    Game game;
+    QVERIFY(game.start());
+    NoPrinter none(game.folder.path("never.pdf"));
+    game.output->setServices({&none, &game.clipboard, {}, {}});
+    const QString single = game.folder.path("single.pdf");
+    game.files.paths.enqueue(single);
+    game.prompter.answers.enqueue(kMsgYes);
+    game.prompter.answers.enqueue(kMsgYes);
+    game.trigger("mnuprintpuzzle");
+    QCOMPARE(game.prompter.messages.last().prompt,
+             QString("No printer is installed.\r\nSave the puzzle and its solution as a PDF file instead?"));
+    QCOMPARE(pageCount(single), 1);
+    QVERIFY(pdfText(single).contains("- Puz# 2:"));
+
+    game.prompter.answers.enqueue(kMsgYes);
+    game.prompter.answers.enqueue(kMsgNo);
+    game.trigger("mnuprintclues");
+    QCOMPARE(game.prompter.messages.last().prompt,
+             QString("No printer is installed.\r\nSave the clues as a PDF file instead?"));
+    QCOMPARE(game.files.requests.size(), 1);  // declined: no file asked for
+
+    QString printerLabel;
+    bool pdfForced = false;
+    onPrintWindow([&](QWidget& form) {
+      printerLabel = form.findChild<QLabel*>("lblPrinter")->text();
+      auto* pdf = form.findChild<QAbstractButton*>("chkPdf");
+      pdfForced = pdf->isChecked() && !pdf->isEnabled();
+      form.findChild<QAbstractButton*>("cmdOK")->click();
+    });
+    const QString range = game.folder.path("range.pdf");
+    game.files.paths.enqueue(range);
+    game.trigger("mnuprint");
+    QCOMPARE(printerLabel, QString("No printer is installed"));
+    QVERIFY(pdfForced);
+    QCOMPARE(pageCount(range), 1);
+    QCOMPARE(game.prompter.messages.last().prompt, QString("1 puzzles printed"));
+    QVERIFY(!QFile::exists(game.folder.path("never.pdf")));
+  }
+
+  void theBookletIsChosenInThePrintWindowPreviewedAndRemembered() {
+    Game game;
+    QVERIFY(game.start());
+    const QString previewed = game.folder.path("preview.pdf");
+    game.output->setServices({game.printer.get(), &game.clipboard, {}, [&](const auto& draw) {
+                                PdfTarget preview(previewed);
+                                draw(preview);
+                              }});
+    QVERIFY(QDir().mkpath(game.folder.path("out")));
+    const QString booklet = game.folder.path("out/booklet.pdf");
+    game.files.paths.enqueue(booklet);
+    onPrintWindow([](QWidget& form) {
+      form.findChild<QAbstractButton*>("optRange")->click();
+      form.findChild<QLineEdit*>("Text1")->setText("1-4");
+      form.findChild<QAbstractButton*>("optBooklet")->click();
+      form.findChild<QLineEdit*>("txtTitle")->setText("Class 4b");
+      form.findChild<QAbstractButton*>("chkPdf")->setChecked(true);
+      form.findChild<QAbstractButton*>("cmdPreview")->click();
+      form.findChild<QAbstractButton*>("cmdOK")->click();
+    });
+    game.trigger("mnuprint");
+    // Four puzzles on pages of their own and one page of keys, in the
+    // preview as in the file.
+    QCOMPARE(pageCount(previewed), 5);
+    QCOMPARE(pageCount(booklet), 5);
+    const QString text = pdfText(booklet);
+    QVERIFY2(text.contains("Class 4b") && text.contains("Puzzle 4") && text.contains("Answers") &&
+                 text.contains("Page 5 of 5"),
+             qPrintable(text));
+    QCOMPARE(game.window->puzzle().PuzzleNumber, 2);  // shown again after the pages
+
+    // Opened again, the window offers the same choices and the PDF folder.
+    bool remembered = false;
+    onPrintWindow([&](QWidget& form) {
+      remembered = form.findChild<QAbstractButton*>("chkPdf")->isChecked() &&
+                   form.findChild<QAbstractButton*>("optBooklet")->isChecked() &&
+                   form.findChild<QLineEdit*>("txtTitle")->text() == "Class 4b";
+      form.findChild<QAbstractButton*>("cmdOK")->click();
+    });
+    game.trigger("mnuprint");
+    QVERIFY(remembered);
+    QCOMPARE(QDir(game.files.requests.last().defaultDir).canonicalPath(),
+             QDir(game.folder.path("out")).canonicalPath());
   }
 
   void theSinglePrintAsksFirstAndPrintsTheSheetWithItsLettersOnly() {
@@ -231,12 +367,26 @@ class TestOutput : public QObject {
     const QImage puzzle = game.clipboard.images[0];
     const QImage solution = game.clipboard.images[1];
 
-    const BoardLayout& screen = window.layout();
-    const double twips = 1440.0 / puzzle.logicalDpiX();
-    const QSize expected(qRound((window.board().cols() + 1) * screen.CellWidth * 1.4 / twips),
-                         qRound((window.board().rows() + 2) * screen.CellHeight * 1.25 / twips));
-    QCOMPARE(puzzle.size(), expected);
-    QCOMPARE(solution.size(), expected);
+    // The picture is what is drawn with a small white margin around it.
+    QPoint origin;
+    QCOMPARE(puzzle, pageImage(game.output->currentPage(), LetterMode::Sheet, &origin));
+    QCOMPARE(solution.size(), puzzle.size());
+    const auto drawnAt = [&puzzle](int x0, int y0, int x1, int y1) {
+      for (int x = x0; x <= x1; ++x)
+        for (int y = y0; y <= y1; ++y)
+          if (puzzle.pixel(x, y) != qRgb(255, 255, 255)) return true;
+      return false;
+    };
+    const int right = puzzle.width() - 1;
+    const int bottom = puzzle.height() - 1;
+    constexpr int m = kImageMargin;
+    QVERIFY(!drawnAt(0, 0, right, m - 1) && !drawnAt(0, bottom - m + 1, right, bottom));
+    QVERIFY(!drawnAt(0, 0, m - 1, bottom) && !drawnAt(right - m + 1, 0, right, bottom));
+    QVERIFY(drawnAt(m, m, m, bottom - m) && drawnAt(right - m, m, right - m, bottom - m));
+    QVERIFY(drawnAt(m, m, right - m, m) && drawnAt(m, bottom - m, right - m, bottom - m));
+    // A size-7 board with its header fits a small picture.
+    QVERIFY2(puzzle.width() < 900 && puzzle.height() < 600,
+             qPrintable(QString("%1 x %2").arg(puzzle.width()).arg(puzzle.height())));
 
     // The middle letters of cells to fill: white on the puzzle, drawn on the solution.
     const Board& board = window.board();
@@ -245,10 +395,10 @@ class TestOutput : public QObject {
       for (int k : {2, 5}) {
         const int cell = board.InsideCells(n, k);
         const bool given = board.FreeCell(board.CellRow(cell), board.CellCol(cell)) == 1;
-        const int onPuzzle = darkPixelsInLetter(puzzle, window, n, k);
-        const int onSolution = darkPixelsInLetter(solution, window, n, k);
-        if (onSolution == 0) continue;  // cut off by the picture's edge
+        const int onPuzzle = darkPixelsInLetter(puzzle, origin, window, n, k);
+        const int onSolution = darkPixelsInLetter(solution, origin, window, n, k);
         QCOMPARE(onPuzzle > 0, given);
+        QVERIFY(onSolution > 0);  // nothing is cut off
         if (!given) ++checked;
       }
     QVERIFY(checked > 0);
@@ -281,8 +431,24 @@ class TestOutput : public QObject {
     QVERIFY(!QFile::exists(batch));
     QVERIFY(game.prompter.notices.isEmpty());
 
+    // While the batch runs, its window shows the count, and the status
+    // line does not stay on reading the word files.
+    bool shown = false;
+    QStringList statuses;
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, [&] {
+      const auto* progress = game.window->findChild<QWidget*>("batchprogress");
+      const auto* count = game.window->findChild<QLabel*>("lblbatchcount");
+      if (!progress || !count || count->text() == "Puzzles made: 0") return;
+      shown = shown || progress->isVisible();
+      statuses << game.window->statusText();
+    });
+    watch.start(0);
     game.prompter.answers.enqueue(kMsgYes);
     game.trigger("mnubatch");
+    watch.stop();
+    QVERIFY(shown);
+    QVERIFY2(!statuses.isEmpty() && !statuses.contains("Reading Meanings file ..."), qPrintable(statuses.join('|')));
     QCOMPARE(game.prompter.notices, QStringList{"done"});
     QFile made(batch);
     QVERIFY(made.open(QIODevice::ReadOnly));

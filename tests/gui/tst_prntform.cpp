@@ -1,12 +1,15 @@
 // The print range window: ranges typed and confirmed, the messages that
 // refuse them, Cancel, the current puzzle, and the printer choice.
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QtTest>
+#include <algorithm>
 
+#include "gui/output/printerchooser.h"
 #include "gui/output/prntform.h"
 #include "support/fakeprompter.h"
 
@@ -96,6 +99,24 @@ class TestPrntForm : public QObject {
     QCOMPARE(printer->toolTip(), QString("PDF"));
     QTest::mouseClick(select, Qt::LeftButton);
     QCOMPARE(form.printerName(), QString("PDF"));
+  }
+
+  void theChooserOnlyPicksAnInstalledPrinter() {
+    PrinterChooser chooser({"Office", "Hall"}, "Hall");
+    auto* list = chooser.findChild<QComboBox*>("cboPrinters");
+    QCOMPARE(list->count(), 2);
+    QCOMPARE(chooser.chosen(), QString("Hall"));
+    // Only the printer: no range, copies or Print button.
+    const auto buttons = chooser.findChildren<QPushButton*>();
+    QCOMPARE(buttons.size(), 2);
+    for (QPushButton* button : buttons) QVERIFY(!button->text().contains("Print"));
+    QVERIFY(chooser.findChildren<QLineEdit*>().size() <= 1);  // the list's own
+
+    PrinterChooser none({}, {});
+    QCOMPARE(none.findChild<QLabel*>("lblChooser")->text(), QString("No printer is installed."));
+    const auto noneButtons = none.findChildren<QPushButton*>();
+    QVERIFY(std::none_of(noneButtons.begin(), noneButtons.end(),
+                         [](QPushButton* b) { return b->isEnabled() && b->text().remove('&') == "OK"; }));
   }
 };
 

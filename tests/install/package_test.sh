@@ -105,9 +105,20 @@ run >"$scratch/out" 2>&1
 status=$?
 [ $status -eq 2 ] && grep -q "no-such-option" "$scratch/out" || fail "an unknown option gave status $status: $(cat "$scratch/out")"
 
-program=combwise args=(--screenshot "$home/shot.png")
+# The game starts on the readymade puzzles, then saves its settings as Save
+# Options (and Exit) do: they must land in the user's configuration folder.
+program=combwise args=(--screenshot "$home/shot.png" --save-options)
 run QT_QPA_PLATFORM=offscreen >"$scratch/out" 2>&1 || { cat "$scratch/out"; fail "combwise --screenshot failed"; }
 [ "$(head -c 4 "$home/shot.png" 2>/dev/null | tail -c 3)" = PNG ] || fail "combwise --screenshot wrote no picture"
+settings="$home/config/combwise/combwise.cfg"
+if [ -f "$settings" ]; then
+    [ "$(sed -n 2p "$settings" | tr -d '\r')" = "$root/usr/share/combwise/puzzles.txt" ] ||
+        fail "the saved settings do not name the readymade puzzles: $(sed -n 2p "$settings")"
+    [ "$(sed -n 3p "$settings" | tr -d '\r')" = "$root/usr/share/combwise/english3.txt" ] ||
+        fail "the saved settings do not name the installed dictionary: $(sed -n 3p "$settings")"
+else
+    fail "combwise saved no settings in the user's folder ($(cat "$scratch/out"))"
+fi
 
 after=$(find "$root" -printf '%p %s %T@\n' | sort)
 [ "$before" = "$after" ] || fail "something was written under the unpacked root: $(diff <(echo "$before") <(echo "$after"))"

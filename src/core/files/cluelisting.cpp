@@ -25,9 +25,12 @@ std::vector<std::string> clueListingLines(const PuzzleState& state, const Listin
 }
 
 Status writeClueListing(const std::string& path, const PuzzleState& state, const ListingBanner& banner) {
+  std::string content;
+  for (const std::string& line : clueListingLines(state, banner)) content += line + "\r\n";
+  // Written beside the file and renamed over it: a failed write leaves no
+  // empty or cut file behind, and an old listing stays as it was.
   errno = 0;
-  if (!writeLines(path, clueListingLines(state, banner), WriteMode::Truncate))
-    return Status::failure(fileErrorMessage("write", path, errno));
+  if (!replaceFileContent(path, content)) return Status::failure(fileErrorMessage("write", path, errno));
   return Status::success();
 }
 

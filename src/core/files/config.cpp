@@ -132,8 +132,12 @@ bool isSchemeName(std::string_view name) {
 }
 
 ConfigRead ReadcfgFile(const std::string& programFolder, Settings& settings) {
+  return ReadcfgFile(programFolder, programFolder, settings);
+}
+
+ConfigRead ReadcfgFile(const std::string& configFolder, const std::string& programFolder, Settings& settings) {
   ConfigRead result;
-  const std::string path = configPath(programFolder);
+  const std::string path = configPath(configFolder);
   {
     LineReader reader(path);
     readInto(reader, settings, path, result.notes);

@@ -81,6 +81,10 @@ bool isSchemeName(std::string_view name);
 // Afterwards a dictionary path that names no file or an empty one becomes
 // the default dictionary.
 ConfigRead ReadcfgFile(const std::string& programFolder, Settings& settings);
+// The same with the configuration read from `configFolder` (the user's
+// folder of an installed program); the default dictionary stays in the
+// program folder.
+ConfigRead ReadcfgFile(const std::string& configFolder, const std::string& programFolder, Settings& settings);
 
 // Writes every setting and all five recent-file captions, shown or not. The
 // new file replaces the old one only once it is written in full; a failure

@@ -37,6 +37,8 @@ std::string extraOptionsPath(const std::string& programFolder) {
   return programFolder + std::string(kExtraOptionsFileName);
 }
 
+std::string extraOptionsPath(const ProgramFiles& files) { return files.writePath(kExtraOptionsFileName); }
+
 std::string extraOptionsText(const ExtraOptions& options) {
   std::string text;
   for (const auto& key : kKeys) text += std::string(key.name) + "=" + (options.*key.flag ? "on" : "off") + "\r\n";

@@ -17,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/files/programfiles.h"
 #include "core/model/callbacks.h"
 
 namespace combwise {
@@ -37,6 +38,9 @@ struct ExtraOptionsRead {
 };
 
 std::string extraOptionsPath(const std::string& programFolder);
+// The extra settings where the program writes its files (the user's
+// folder of an installed program); they are read and written there.
+std::string extraOptionsPath(const ProgramFiles& files);
 
 std::string extraOptionsText(const ExtraOptions& options);
 ExtraOptionsRead parseExtraOptions(std::string_view text, const std::string& fileName);

@@ -77,6 +77,8 @@ void putFirst(std::vector<Record>& records, Record record, std::size_t limit) {
 
 std::string progressPath(const std::string& programFolder) { return programFolder + std::string(kProgressFileName); }
 
+std::string progressPath(const ProgramFiles& files) { return files.writePath(kProgressFileName); }
+
 std::string progressKey(const std::string& collection) {
   if (collection.empty()) return {};
   std::error_code error;

@@ -25,6 +25,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/files/programfiles.h"
 #include "core/model/board.h"
 #include "core/model/callbacks.h"
 #include "core/model/puzzlestate.h"
@@ -39,6 +40,9 @@ inline constexpr std::size_t kMaxProgressLine = 8192;
 
 // The progress file of a program folder (which ends with a separator).
 std::string progressPath(const std::string& programFolder);
+// The progress file where the program keeps the player's files (the user's
+// folder of an installed program); it is read and written there.
+std::string progressPath(const ProgramFiles& files);
 
 // A collection's path as the progress file keys it: absolute and without
 // "." or ".." parts.

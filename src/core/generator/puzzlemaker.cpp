@@ -49,13 +49,15 @@ PuzzleGenerator& PuzzleMaker::generator() {
 }
 
 Status PuzzleMaker::runBatch(const std::string& programFolder, const LineRunOptions& options,
-                             const std::function<void(int)>& progress, const StatusReport& status) {
+                             const std::function<void(int)>& progress, const StatusReport& status,
+                             const std::string& outputPath) {
   useSize(kBatchSize);
   if (Status read = loadDictionary(programFolder + kDefaultDictionaryFile, status); !read.ok()) return read;
   if (Status read = loadMeanings(programFolder + kMeaningsFile, status); !read.ok()) return read;
   LineRunOptions batch = options;
   batch.size = kBatchSize;
-  return appendPuzzleLines(programFolder + kBatchFile, m_dictionary, m_meanings, batch, progress);
+  return appendPuzzleLines(outputPath.empty() ? programFolder + kBatchFile : outputPath, m_dictionary, m_meanings,
+                           batch, progress);
 }
 
 CreateResult PuzzleMaker::create(int size, const std::string& dictionaryPath, const std::string& meaningsPath,

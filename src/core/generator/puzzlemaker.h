@@ -64,9 +64,12 @@ class PuzzleMaker {
   // (and its "mean3456.txt"), appended one by one to the program folder's
   // "puz-18sepsize17D.txt", which is extended, never truncated. The size
   // and the dictionary stay set afterwards. `progress` hears each appended
-  // puzzle's number.
+  // puzzle's number. An `outputPath` other than empty takes the place of
+  // the program folder's output file (an installed program writes its
+  // batch into the user's folder).
   Status runBatch(const std::string& programFolder, const LineRunOptions& options,
-                  const std::function<void(int)>& progress = {}, const StatusReport& status = {});
+                  const std::function<void(int)>& progress = {}, const StatusReport& status = {},
+                  const std::string& outputPath = {});
 
   // The board is set up for the size when it differs from the current one.
   void useSize(int size);

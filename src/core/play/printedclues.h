@@ -27,6 +27,7 @@ struct SheetLine {
   double y = 0;  // top of the text
   std::string text;
   SheetFont font = SheetFont::Text;
+  int page = 0;  // 0 for the first page of the listing
   friend bool operator==(const SheetLine&, const SheetLine&) = default;
 };
 
@@ -44,8 +45,11 @@ std::string pageHeader(const ListingBanner& banner, int puzzleNumber);
 // The listing with its top-left corner at (left, top). Clues wrap as
 // `wrapMeasure` measures them (the screen board's font, so paper and screen
 // break a clue at the same words) to a column from left + 400 to 10000.
+// An entry or heading that would pass `pageBottom` goes to the next page,
+// which repeats the two header lines; an entry taller than a whole page
+// still starts on a page of its own rather than being cut.
 std::vector<SheetLine> layOutPrintedClues(const PuzzleState& state, const ListingBanner& banner,
                                           const TextMeasure& wrapMeasure, const SheetLineHeights& heights, int left,
-                                          int top);
+                                          int top, double pageBottom);
 
 }  // namespace combwise

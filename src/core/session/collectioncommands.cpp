@@ -1,6 +1,9 @@
 // The collection commands: open a collection, save the current puzzle into
 // one, browse with the arrows, reopen a recent file, and exit.
+#include <filesystem>
+
 #include "core/files/browsing.h"
+#include "core/files/textfile.h"
 #include "core/model/text.h"
 #include "core/session/gamesession.h"
 #include "core/session/sessionscopes.h"
@@ -37,6 +40,13 @@ CommandResult GameSession::loadCollection() {
   const std::string path =
       m_host.chooseFile(collectionQuestion("Select a saved game file to load", m_programFolder, "OPEN"));
   if (path.empty()) return result;
+  // What cannot be read (a pipe, a folder, a file without permission) says why.
+  if (const auto reason = unreadableReason(path)) {
+    result.status = "Error loading puzzle file";
+    result.statusTip = *reason;
+    result.messages.push_back({*reason, "vbok+vbcritical"});
+    return result;
+  }
   const int count = countPuzzles(path);
   if (count == 0) {
     result.status = nonEmptyFile(path) ? "Error loading puzzle file" : "No puzzles in " + std::string(fileNameOf(path));
@@ -59,7 +69,7 @@ CommandResult GameSession::savePuzzle() {
     return result;
   }
   const std::string chosen =
-      m_host.chooseFile(collectionQuestion("Select a file to save current puzzle", m_programFolder, "SAVE"));
+      m_host.chooseFile(collectionQuestion("Select a file to save current puzzle", saveFolder(), "SAVE"));
   if (trimmed(chosen).empty()) return result;
   const std::string path = withDefaultExtension(chosen);
   if (const Status written = writePuzzle(path, WriteMode::Append, m_puzzle); !written.ok()) {
@@ -97,7 +107,11 @@ CommandResult GameSession::openRecent(int index) {
   const std::string path = m_settings.recentFiles[static_cast<std::size_t>(index)].path;
   if (trimmed(path).empty()) return result;
   if (!nonEmptyFile(path)) {
-    result.messages.push_back({"File does not exist:\n" + path, "vbok+vbcritical"});
+    // Something there that cannot be read (a pipe, a folder) says what it is.
+    const auto reason = unreadableReason(path);
+    std::error_code ignored;
+    const bool there = std::filesystem::exists(path, ignored);
+    result.messages.push_back({there && reason ? *reason : "File does not exist:\n" + path, "vbok+vbcritical"});
     return result;
   }
   {

@@ -4,6 +4,8 @@
 
 #include "core/files/browsing.h"
 #include "core/files/programfiles.h"
+#include "core/files/textfile.h"
+#include "core/model/text.h"
 #include "core/session/sessionscopes.h"
 
 namespace combwise {
@@ -17,9 +19,13 @@ void CommandResult::add(const CommandResult& later) {
 }
 
 GameSession::GameSession(std::string programFolder, SessionHost& host)
-    : m_programFolder(std::move(programFolder)),
+    : GameSession(ProgramFiles(programFolder, userFolders()), host) {}
+
+GameSession::GameSession(ProgramFiles files, SessionHost& host)
+    : m_programFolder(files.programFolder()),
       m_host(host),
-      m_errorLog(m_programFolder),
+      m_files(std::move(files)),
+      m_errorLog(m_files.writeFolder(kErrorLogFile)),
       m_dictionary(&m_errorLog),
       m_meanings(&m_errorLog),
       m_maker(m_board, m_puzzle, m_dictionary, m_meanings) {
@@ -31,7 +37,11 @@ GameSession::GameSession(std::string programFolder, SessionHost& host)
 
 GameSession::~GameSession() = default;
 
-std::string GameSession::meaningsPath() const { return m_programFolder + kMeaningsFile; }
+std::string GameSession::meaningsPath() const { return m_files.readPath(kMeaningsFile); }
+
+std::string GameSession::saveFolder() const {
+  return m_files.usesUserFolders() ? m_files.writeFolder(kTemporaryPuzzleFile) : m_programFolder;
+}
 
 void GameSession::setBusy(Busy busy) {
   if (m_busy == busy) return;
@@ -44,12 +54,19 @@ CommandResult GameSession::startUp() {
   m_settings = startupSettings();
   m_settings.dictionaryPath = defaultDictionaryPath(m_programFolder);
   m_puzzle.PuzzleSize = -1;
-  ReadcfgFile(m_programFolder, m_settings);
+  const ConfigRead config = ReadcfgFile(m_files.readFolder(kConfigFile), m_programFolder, m_settings);
+  if (!config.notes.empty()) {
+    std::string notes;
+    for (const std::string& note : config.notes) notes += (notes.empty() ? "" : "\n") + note;
+    result.messages.push_back({notes, "vbok+vbexclamation"});
+  }
   m_fontSize = look().fontSize;
   const SchemeLoad scheme =
       loadStartupScheme(schemeFilePath(m_programFolder), m_settings.schemeName, m_scheme, DesignedColours{});
   if (!scheme.message.empty()) {
-    result.messages.push_back({scheme.message, std::string(kStartupSchemeStyle)});
+    // The notice, then which file let it down and how.
+    const std::string notice = scheme.detail.empty() ? scheme.message : scheme.message + "\n" + scheme.detail;
+    result.messages.push_back({notice, std::string(kStartupSchemeStyle)});
     m_settings.schemeName = m_scheme.name;
   }
   m_scheme[ColourScheme::kButtonOverride] = m_settings.schemeColour13;
@@ -72,7 +89,7 @@ CommandResult GameSession::startStep() {
   // The last collection, else the readymade one here or in the program folder.
   auto collection = startupCollection(m_settings.collectionPath, nonEmptyFile);
   int number = m_settings.PuzzleNumber;
-  const std::string besideProgram = m_programFolder + kReadymadeCollection;
+  const std::string besideProgram = m_files.readPath(kReadymadeCollection);
   if (collection && *collection != m_settings.collectionPath) {
     number = 1;
   } else if (!collection && nonEmptyFile(besideProgram)) {
@@ -92,6 +109,12 @@ CommandResult GameSession::startStep() {
     if (number < 1) number = 1;
     if (showPuzzle(*collection, number, result)) {
       result.status = "Ready ...";
+    } else if (number <= m_puzzle.PuzzleCount && !unreadableReason(*collection)) {
+      // A damaged puzzle keeps its collection open: the arrows move past it.
+      m_puzzle.CollectionPath = *collection;
+      m_puzzle.PuzzleNumber = number;
+      result.status = "Error reading puzzle";
+      result.redraw |= Redraw::Puzzle;  // the counter and the file name show where it stands
     } else {
       // A stored number beyond the collection starts with an empty board.
       m_puzzle.PuzzleNumber = 0;
@@ -109,7 +132,8 @@ CommandResult GameSession::saveOptions() {
   m_settings.schemeName = m_scheme.name;
   m_settings.schemeColour13 = m_scheme[ColourScheme::kButtonOverride];
   CommandResult result;
-  if (const Status saved = SavecfgFile(m_programFolder, m_settings); !saved.ok()) result.status = saved.error;
+  if (const Status saved = SavecfgFile(m_files.writeFolder(kConfigFile), m_settings); !saved.ok())
+    result.status = saved.error;
   return result;
 }
 
@@ -136,11 +160,28 @@ bool GameSession::showPuzzle(const std::string& path, int n, CommandResult& resu
   const PuzzleReadResult read = readPuzzle(path, n, m_board, m_puzzle, clueSource());
   if (read.outcome == ReadOutcome::NoPuzzles || read.outcome == ReadOutcome::Unreadable)
     result.messages.push_back({read.message, "vbok+vbcritical"});
-  // The status line says that a read failed; its tip says why.
-  result.statusTip = read.loaded() ? std::string() : read.message;
+  // The status line says that a read failed; its tip says where and why.
+  if (read.outcome == ReadOutcome::Malformed)
+    result.statusTip = path + ", line " + NumberText(read.number) + ": " + read.message;
+  else
+    result.statusTip = read.loaded() ? std::string() : read.message;
   if (!read.loaded()) return false;
   puzzleShown(read, result);
+  tellMeaningsFault(read, result);
   return true;
+}
+
+void GameSession::tellMeaningsFault(const PuzzleReadResult& read, CommandResult& result) {
+  // Said once: every later puzzle would only repeat it.
+  if (m_meaningsFaultTold) return;
+  std::string fault;
+  if (!read.clues.ok())
+    fault = read.clues.error + "\nThe clues stay empty.";
+  else
+    fault = m_meanings.warning();
+  if (fault.empty()) return;
+  m_meaningsFaultTold = true;
+  result.messages.push_back({fault, "vbok+vbexclamation"});
 }
 
 void GameSession::puzzleShown(const PuzzleReadResult& read, CommandResult& result) {

@@ -28,6 +28,7 @@
 #include "core/files/errorlog.h"
 #include "core/files/extraoptions.h"
 #include "core/files/progressfile.h"
+#include "core/files/programfiles.h"
 #include "core/files/puzzlefile.h"
 #include "core/generator/puzzlemaker.h"
 #include "core/model/board.h"
@@ -50,8 +51,12 @@ enum class Busy { None, ReadingDictionary, StartingUp, Creating, Batch, Randomiz
 
 class GameSession {
  public:
-  // The program folder ends with a separator. The host must outlive the session.
+  // The program folder ends with a separator. The host must outlive the
+  // session. Where the program folder cannot be written, the files the
+  // session writes go to the user's folders.
   GameSession(std::string programFolder, SessionHost& host);
+  // With the places of the program's files decided by the caller.
+  GameSession(ProgramFiles files, SessionHost& host);
   ~GameSession();
   GameSession(const GameSession&) = delete;
   GameSession& operator=(const GameSession&) = delete;
@@ -157,6 +162,10 @@ class GameSession {
 
   // --- What the window shows ---
   const std::string& programFolder() const { return m_programFolder; }
+  const ProgramFiles& files() const { return m_files; }
+  // Where the save dialogs start: the user's folder of an installed
+  // program, else the program folder.
+  std::string saveFolder() const;
   std::string meaningsPath() const;
   const Board& board() const { return m_board; }
   const PuzzleState& puzzle() const { return m_puzzle; }
@@ -181,6 +190,8 @@ class GameSession {
   ClueSource clueSource();
   // After a puzzle was read or made: fitted when needed, then shown.
   void puzzleShown(const PuzzleReadResult& read, CommandResult& result);
+  // A meanings file that is missing, unreadable or unfit is told once.
+  void tellMeaningsFault(const PuzzleReadResult& read, CommandResult& result);
   void fitBoard(CommandResult& result);
   void relayout(int cellWidth, int cellHeight);
   // Reads puzzle 1 of a newly chosen collection of `count` puzzles.
@@ -202,6 +213,7 @@ class GameSession {
 
   std::string m_programFolder;
   SessionHost& m_host;
+  ProgramFiles m_files;
   Board m_board;
   PuzzleState m_puzzle;
   BoardLayout m_layout;
@@ -222,6 +234,7 @@ class GameSession {
   Busy m_busy = Busy::None;
   bool m_hasPuzzle = false;
   bool m_startedUp = false;
+  bool m_meaningsFaultTold = false;
   bool m_cancelRequested = false;
 
   ProgressStore m_progress;

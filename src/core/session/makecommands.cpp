@@ -25,6 +25,11 @@ CommandResult GameSession::create() {
     return result;
   }
   result.add(saveProgress());  // the letters belong to the puzzle still shown
+  // The maker works on the shown board and puzzle; a creation that fails
+  // or is cancelled puts them back as they were, so the screen and a later
+  // Save keep showing one whole puzzle.
+  const Board boardBefore = m_board;
+  const PuzzleState puzzleBefore = m_puzzle;
   CreateResult made;
   {
     const PointerScope pointer(m_host);
@@ -39,7 +44,11 @@ CommandResult GameSession::create() {
     hooks.maxTries = kDefaultMaxTries;  // a dictionary that cannot make the size says so
     hooks.maxWork = kDefaultMaxWork;    // within seconds, however long the dictionary
     hooks.distinct = m_extraOptions.noWordTwice;
-    made = m_maker.create(size, m_settings.dictionaryPath, meaningsPath(), m_random, hooks, kTemporaryPuzzleFile);
+    // The temporary puzzle lies in the working folder, or in the user's
+    // folder of an installed program.
+    const std::string temporary =
+        m_files.usesUserFolders() ? m_files.writePath(kTemporaryPuzzleFile) : std::string(kTemporaryPuzzleFile);
+    made = m_maker.create(size, m_settings.dictionaryPath, meaningsPath(), m_random, hooks, temporary);
   }
   if (made.created()) {
     m_puzzle.PuzzleCount = 1;
@@ -48,7 +57,12 @@ CommandResult GameSession::create() {
     shown.number = 1;
     puzzleShown(shown, result);
     result.status = "Puzzle created ...";
-  } else if (m_cancelRequested) {
+    return result;
+  }
+  m_board = boardBefore;
+  result.redraw |= Redraw::Board;
+  m_puzzle = puzzleBefore;
+  if (m_cancelRequested) {
     result.status = "Puzzle creation cancelled";
   } else {
     result.status = made.message;
@@ -104,12 +118,13 @@ CommandResult GameSession::randomize() {
 CommandResult GameSession::makeBatch(const std::function<void(int made)>& progress) {
   CommandResult result;
   if (m_busy != Busy::None) return result;
-  if (m_host.ask("Make " + NumberText(m_batchCount) + " puzzles of size 17 into " + m_programFolder + kBatchFile + "?",
+  const std::string output = m_files.writePath(kBatchFile);
+  if (m_host.ask("Make " + NumberText(m_batchCount) + " puzzles of size 17 into " + output + "?",
                  "vbquestion+vbyesno") != kAnswerYes)
     return result;
   // The batch works on a board and word data of its own, so the puzzle on
   // the screen stays; afterwards its size and dictionary are the ones in use.
-  ErrorLog log(m_programFolder);
+  ErrorLog log(m_files.writeFolder(kErrorLogFile));
   Board board;
   PuzzleState state;
   Dictionary dictionary(&log);
@@ -126,12 +141,15 @@ CommandResult GameSession::makeBatch(const std::function<void(int made)>& progre
         m_programFolder, options,
         [this, &progress](int count) {
           if (progress) progress(count);
+          // Replaces the word files' reading status, which is long over.
+          m_host.progress("Making a batch of puzzles ...");
           m_host.pumpEvents();
         },
         [this](const std::string& status) {
           m_host.progress(status);
           m_host.pumpEvents();
-        });
+        },
+        output);
   }
   m_sizeToCreate = kBatchSize;
   result.add(readDictionary(m_programFolder + kDefaultDictionaryFile));

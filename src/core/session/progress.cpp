@@ -45,7 +45,7 @@ void GameSession::loadPlayerFiles(CommandResult& result) {
 std::string GameSession::playerFilePath(std::string_view name) const {
   // Nothing of the player's ships with the program, so the place it is
   // written is also the place to read it from.
-  return ProgramFiles(m_programFolder, userFolders()).writePath(name);
+  return m_files.writePath(name);
 }
 
 bool GameSession::keepsProgress() const {

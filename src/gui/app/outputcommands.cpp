@@ -3,10 +3,16 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QMenu>
 #include <QPainter>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 
 #include "core/files/browsing.h"
+#include "core/files/printchoices.h"
+#include "core/files/programfiles.h"
 #include "core/files/puzzlefile.h"
 #include "core/files/textfile.h"
 #include "core/model/text.h"
@@ -17,6 +23,7 @@
 #include "gui/ui/batchprogress.h"
 #include "gui/ui/busypointer.h"
 #include "gui/ui/prompter.h"
+#include "render/bookletprinter.h"
 #include "render/pageimage.h"
 #include "render/pdftarget.h"
 #include "render/rangeprinter.h"
@@ -95,16 +102,55 @@ void OutputCommands::printCurrentPuzzle() {
   if (!ready()) return;
   if (m_window.prompter().ShowMessage("Print current puzzle and its solution?", "vbquestion+vbyesno") != kMsgYes)
     return;
-  PrintTarget& target = printer();
+  bool declined = false;
+  std::unique_ptr<PrintTarget> pdf = pdfInsteadOfPrinter("the puzzle and its solution", declined);
+  if (declined) return;
+  PrintTarget& target = pdf ? *pdf : printer();
   QPainter* painter = target.beginDocument();
-  if (!painter) return;
+  if (!painter) {
+    m_window.prompter().ShowMessage("Cannot print to " + target.printerName(), "vbok+vbcritical");
+    return;
+  }
   const PagePuzzle page = currentPage();
   PrintPuzzle(*painter, page, kPageLeft, kSheetTop, 0);
   PrintPuzzle(*painter, page, kPageLeft, kSinglePrintSolvedTop, 1);
   target.endDocument();
 }
 
-void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last) {
+std::string OutputCommands::printChoicesPath() const {
+  return m_window.session().files().writePath(kPrintChoicesFile);
+}
+
+std::unique_ptr<PrintTarget> OutputCommands::choosePdfFile() {
+  PrintChoices choices = readPrintChoices(printChoicesPath());
+  const QString folder = choices.pdfFolder.empty() || !QDir(text(choices.pdfFolder)).exists()
+                             ? text(m_window.session().saveFolder())
+                             : text(choices.pdfFolder);
+  const QString chosen = m_window.fileChooser().chooseFile({"Save as PDF", "*.pdf", "PDF Files", folder, "SAVE", {}});
+  if (chosen.trimmed().isEmpty()) return nullptr;
+  const QString path = text(withDefaultExtension(chosen.toStdString(), kPdfExtension));
+  if (nonEmptyFile(path.toStdString()) && !m_window.prompter().confirm("OverWrite file: " + path + " ?"))
+    return nullptr;
+  // The next PDF starts in the same folder; failing to remember it is no
+  // reason to stop the printing.
+  choices.pdfFolder = QFileInfo(path).absolutePath().toStdString();
+  writePrintChoices(printChoicesPath(), choices);
+  return m_services.pdfFile ? m_services.pdfFile(path) : std::make_unique<PdfTarget>(path);
+}
+
+std::unique_ptr<PrintTarget> OutputCommands::pdfInsteadOfPrinter(const QString& what, bool& declined) {
+  declined = false;
+  if (!printer().printerName().isEmpty()) return nullptr;
+  declined = true;
+  if (m_window.prompter().ShowMessage("No printer is installed.\r\nSave " + what + " as a PDF file instead?",
+                                      "vbquestion+vbyesno") != kMsgYes)
+    return nullptr;
+  std::unique_ptr<PrintTarget> pdf = choosePdfFile();
+  declined = !pdf;
+  return pdf;
+}
+
+RangeOutcome OutputCommands::drawRange(PrintTarget& target, int first, int last, bool booklet, const QString& title) {
   const PuzzleState& state = m_window.puzzle();
   const std::string path = state.CollectionPath;
   const int shownBefore = state.PuzzleNumber;
@@ -112,14 +158,24 @@ void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last) 
     if (!m_window.showPuzzle(path, n)) return std::nullopt;
     return currentPage();
   };
-  RangeOutcome outcome;
-  {
-    BusyPointer busy;
-    outcome = PrintPuzzleRange(target, first, last, state.PuzzleCount, load, false, letEventsRun);
-    m_window.showPuzzle(path, shownBefore);
-  }
-  if (!outcome.opened) {
-    m_window.prompter().ShowMessage("Cannot print to " + target.printerName(), "vbok+vbcritical");
+  BusyPointer busy;
+  const RangeOutcome outcome =
+      booklet ? PrintBooklet(target, first, last, state.PuzzleCount, load, title.isEmpty() ? kBookletTitle : title,
+                             letEventsRun)
+              : PrintPuzzleRange(target, first, last, state.PuzzleCount, load, false, letEventsRun);
+  m_window.showPuzzle(path, shownBefore);
+  return outcome;
+}
+
+void OutputCommands::printPuzzleRange(PrintTarget& target, int first, int last, bool booklet, const QString& title) {
+  const RangeOutcome outcome = drawRange(target, first, last, booklet, title);
+  if (!outcome.opened || !outcome.written) {
+    const QString name = target.printerName();
+    const std::string error = target.error();
+    m_window.prompter().ShowMessage(!error.empty()   ? text(error)
+                                    : name.isEmpty() ? QString("No printer is installed")
+                                                     : "Cannot print to " + name,
+                                    "vbok+vbcritical");
     return;
   }
   m_window.prompter().ShowMessage(text(NumberText(outcome.printed)) + " puzzles printed", "vbinformation+vbok");
@@ -132,32 +188,65 @@ void OutputCommands::printFileCommand() {
   PrntForm form(
       target.printerName(), text(state.CollectionPath), state.PuzzleCount, m_window.prompter(),
       [this, &target] { return target.choosePrinter(&m_window); }, &m_window);
+  const PrintChoices remembered = readPrintChoices(printChoicesPath());
+  form.setChoices(remembered.saveAsPdf, remembered.booklet, text(remembered.title));
+  const int current = state.PuzzleNumber;
+  form.setPreview([this, current](PrintRange range, bool booklet, const QString& title) {
+    if (range.first == 0) range = {current, current};
+    preview(range.first, range.last, booklet, title);
+  });
   form.exec();
   const std::optional<PrintRange> range = form.chosenRange(state.PuzzleNumber);
   if (!range) return;
+  PrintChoices choices = readPrintChoices(printChoicesPath());
+  // Without a printer the tick is forced on; that is not the user's choice.
+  if (!form.printerName().isEmpty()) choices.saveAsPdf = form.saveAsPdf();
+  choices.booklet = form.booklet();
+  choices.title = form.title().toStdString();
+  writePrintChoices(printChoicesPath(), choices);
   if (form.saveAsPdf())
-    printToPdf(range->first, range->last);
+    printToPdf(range->first, range->last, form.booklet(), form.title());
   else
-    printPuzzleRange(target, range->first, range->last);
+    printPuzzleRange(target, range->first, range->last, form.booklet(), form.title());
 }
 
-void OutputCommands::printToPdf(int first, int last) {
-  const QString chosen = m_window.fileChooser().chooseFile(
-      {"Save as PDF", "*.pdf", "PDF Files", text(m_window.programFolder()), "SAVE", {}});
-  if (chosen.trimmed().isEmpty()) return;
-  const QString path = text(withDefaultExtension(chosen.toStdString(), kPdfExtension));
-  if (nonEmptyFile(path.toStdString()) && !m_window.prompter().confirm("OverWrite file: " + path + " ?")) return;
-  std::unique_ptr<PrintTarget> file = m_services.pdfFile ? m_services.pdfFile(path) : std::make_unique<PdfTarget>(path);
-  printPuzzleRange(*file, first, last);
+void OutputCommands::printToPdf(int first, int last, bool booklet, const QString& title) {
+  std::unique_ptr<PrintTarget> file = choosePdfFile();
+  if (file) printPuzzleRange(*file, first, last, booklet, title);
+}
+
+void OutputCommands::preview(int first, int last, bool booklet, const QString& title) {
+  const auto draw = [&](PrintTarget& target) { drawRange(target, first, last, booklet, title); };
+  if (m_services.preview) {
+    m_services.preview(draw);
+    return;
+  }
+  QPrinter printer(QPrinter::HighResolution);
+  const QString name = this->printer().printerName();
+  if (!name.isEmpty()) printer.setPrinterName(name);
+  usePrintersOwnPaper(printer);
+  QPrintPreviewDialog dialog(&printer, &m_window);
+  dialog.setWindowTitle(booklet ? "Booklet preview" : "Print preview");
+  connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* shown) {
+    PrinterTarget target(*shown);
+    draw(target);
+  });
+  dialog.exec();
 }
 
 void OutputCommands::printClues() {
   if (!ready()) return;
   if (m_window.prompter().ShowMessage("Print current clues to printer?", "vbquestion+vbyesno") != kMsgYes) return;
-  PrintTarget& target = printer();
+  bool declined = false;
+  std::unique_ptr<PrintTarget> pdf = pdfInsteadOfPrinter("the clues", declined);
+  if (declined) return;
+  PrintTarget& target = pdf ? *pdf : printer();
   QPainter* painter = target.beginDocument();
-  if (!painter) return;
-  PrintClueList(*painter, currentPage(), kClueListLeft, kClueListTop);
+  if (!painter) {
+    m_window.prompter().ShowMessage("Cannot print to " + target.printerName(), "vbok+vbcritical");
+    return;
+  }
+  PrintClueList(*painter, currentPage(), kClueListLeft, kClueListTop, [&target] { target.newPage(); });
   target.endDocument();
 }
 
@@ -167,7 +256,7 @@ void OutputCommands::cluesToTextFile() {
       m_window.fileChooser().chooseFile({"Select output file",
                                          "*.txt",
                                          m_banner.productName.empty() ? "Files" : text(m_banner.productName + " Files"),
-                                         text(m_window.programFolder()),
+                                         text(m_window.session().saveFolder()),
                                          "SAVE",
                                          {}});
   if (chosen.trimmed().isEmpty()) return;

@@ -14,6 +14,7 @@
 #include "gui/output/clipboardsink.h"
 #include "render/printedpage.h"
 #include "render/printtarget.h"
+#include "render/rangeprinter.h"
 
 class QAction;
 
@@ -26,6 +27,9 @@ struct OutputServices {
   ClipboardSink* clipboard = nullptr;  // null: the system clipboard
   // Opens a PDF file as a printer; null: a PDF writer.
   std::function<std::unique_ptr<PrintTarget>(const QString& path)> pdfFile;
+  // Shows a print preview that draws its pages with the function given;
+  // null: Qt's print preview window.
+  std::function<void(const std::function<void(PrintTarget&)>& draw)> preview;
 };
 
 class OutputCommands : public QObject {
@@ -56,16 +60,27 @@ class OutputCommands : public QObject {
   void randomize();
   void makeBatch();
 
-  // Prints puzzles first..last of the open collection on `target`, shows
-  // the puzzle shown before again and reports the count.
-  void printPuzzleRange(PrintTarget& target, int first, int last);
+  // Prints puzzles first..last of the open collection on `target` (as a
+  // booklet with `title` when `booklet`), shows the puzzle shown before
+  // again and reports the count.
+  void printPuzzleRange(PrintTarget& target, int first, int last, bool booklet = false, const QString& title = {});
 
  private:
   void addActions();
   bool ready() const;  // false while the game is busy or there is no puzzle
   PrintTarget& printer();
   ClipboardSink& clipboard();
-  void printToPdf(int first, int last);
+  void printToPdf(int first, int last, bool booklet, const QString& title);
+  // The pages of first..last drawn on `target`, without reporting; the
+  // puzzle shown before is shown again.
+  RangeOutcome drawRange(PrintTarget& target, int first, int last, bool booklet, const QString& title);
+  void preview(int first, int last, bool booklet, const QString& title);
+  // Without a printer: asks whether to save `what` as a PDF file instead
+  // and opens the file; null when there is a printer or the user declines.
+  std::unique_ptr<PrintTarget> pdfInsteadOfPrinter(const QString& what, bool& declined);
+  // Asks for a PDF file name (in the folder used last) and opens it.
+  std::unique_ptr<PrintTarget> choosePdfFile();
+  std::string printChoicesPath() const;
 
   MainWindow& m_window;
   OutputServices m_services;

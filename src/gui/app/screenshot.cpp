@@ -20,8 +20,15 @@ void scheduleScreenshot(MainWindow& window, const ScreenshotRequest& request) {
     poll->stop();
     if (request.revealHexagons > 0) revealHexagons(window, request.revealHexagons);
     QCoreApplication::processEvents();
-    const bool saved = window.grab().save(request.file, "PNG");
+    bool saved = window.grab().save(request.file, "PNG");
     if (!saved) QTextStream(stderr) << "Cannot write " << request.file << "\n";
+    if (request.saveOptions) {
+      const CommandResult options = window.session().saveOptions();
+      if (options.status) {
+        QTextStream(stderr) << QString::fromStdString(*options.status) << "\n";
+        saved = false;
+      }
+    }
     QCoreApplication::exit(saved ? 0 : 1);
   });
   poll->start();

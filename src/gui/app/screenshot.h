@@ -11,11 +11,12 @@ class MainWindow;
 
 struct ScreenshotRequest {
   QString file;
-  int revealHexagons = 0;  // the first N hexagons shown as if the player had filled them
+  int revealHexagons = 0;    // the first N hexagons shown as if the player had filled them
+  bool saveOptions = false;  // the settings saved as Save Options does, after the picture
 };
 
-// Waits for the start step, then saves the window; the exit status is 0
-// when the picture was written.
+// Waits for the start step, then saves the window (and the settings when
+// asked); the exit status is 0 when everything was written.
 void scheduleScreenshot(MainWindow& window, const ScreenshotRequest& request);
 
 // Types the solution letters of the first `count` hexagons as entries.

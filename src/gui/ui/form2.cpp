@@ -73,6 +73,18 @@ QPixmap borderPicture(int width, const QColor& border, const QColor& fill, const
   return picture;
 }
 
+// The board shows Latin capitals: fonts without them (other scripts' fonts)
+// or that put other signs on their code points (symbol fonts, which claim
+// Latin too) would turn the letters into Greek or pictures.
+QStringList latinFontFamilies() {
+  QStringList families;
+  for (const QString& family : QFontDatabase::families()) {
+    const QList<QFontDatabase::WritingSystem> systems = QFontDatabase::writingSystems(family);
+    if (systems.contains(QFontDatabase::Latin) && !systems.contains(QFontDatabase::Symbol)) families << family;
+  }
+  return families;
+}
+
 }  // namespace
 
 Form2::Form2(const Settings& settings, const ColourScheme& scheme, QString programFolder, Prompter& prompter,
@@ -149,7 +161,7 @@ void Form2::buildControls() {
   m_lstFonts = new QListWidget(fraFont);
   m_lstFonts->setObjectName("lstFonts");
   m_lstFonts->setToolTip("Font of the board's letters");
-  m_lstFonts->addItems(QFontDatabase::families());
+  m_lstFonts->addItems(latinFontFamilies());
   m_lstFonts->setMinimumHeight(110);
   connect(m_lstFonts, &QListWidget::currentTextChanged, this, &Form2::chooseFont);
   // The caption is a fixed sample text; the sample shows the chosen font in it.
@@ -261,7 +273,7 @@ void Form2::chooseScheme(const QString& name) {
     // A scheme chosen here brings its own button colour.
     m_pending[ColourScheme::kButtonOverride] = 0;
   } else {
-    m_prompter.notify(QString::fromStdString(load.message));
+    m_prompter.notify(QString::fromStdString(load.detail.empty() ? load.message : load.message + "\n" + load.detail));
   }
   m_picker->setBackColor(toQColor(load.colour));
 }

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <ostream>
+#include <string>
 
 namespace combwise {
 namespace {
@@ -24,6 +27,7 @@ void PrintTo(const SheetLine& line, std::ostream* out) {
 namespace {
 
 constexpr SheetLineHeights kHeights{60, 100, 110};
+constexpr double kTallPage = 1e9;
 
 TEST(PrintedClues, WrappedEmptyAndBrokenCluesKeepTheirPlaces) {
   PuzzleState state;
@@ -35,7 +39,7 @@ TEST(PrintedClues, WrappedEmptyAndBrokenCluesKeepTheirPlaces) {
   state.ClueTexts[3] = "two\r\nlines";
   const CharMeasure measure;
   // The text column runs from 9600 to 10000: 40 characters.
-  const std::vector<SheetLine> lines = layOutPrintedClues(state, {}, measure, kHeights, 9200, 1000);
+  const std::vector<SheetLine> lines = layOutPrintedClues(state, {}, measure, kHeights, 9200, 1000, kTallPage);
   using F = SheetFont;
   const std::vector<SheetLine> expected{
       {9200, 1000, "Combwise Puzzle ...hexagonal crosswords - Puz# 12", F::Header},
@@ -60,7 +64,8 @@ TEST(PrintedClues, OneLineCluesStepByALineAndTheGap) {
   state.WordCount = 20;
   for (int k = 1; k <= 20; ++k) state.ClueTexts[static_cast<std::size_t>(k)] = "clue";
   const CharMeasure measure;
-  const std::vector<SheetLine> lines = layOutPrintedClues(state, {"Hexes", "site"}, measure, kHeights, 1200, 1200);
+  const std::vector<SheetLine> lines =
+      layOutPrintedClues(state, {"Hexes", "site"}, measure, kHeights, 1200, 1200, kTallPage);
   ASSERT_EQ(lines.size(), 2u + 2u + 4u * 10u);
   EXPECT_EQ(lines[0].text, "Hexes Puzzle ...site - Puz# 0");
   // Inside entries from top + 1000, each 100 + 48 below the one before.
@@ -74,6 +79,50 @@ TEST(PrintedClues, OneLineCluesStepByALineAndTheGap) {
   EXPECT_EQ(lines[23].text, "OUTSIDE CLUES:");
   EXPECT_EQ(lines[23].y, 2200 + 148 * 10 + 500);
   EXPECT_EQ(lines[24].y, lines[23].y + 110 + 100);
+}
+
+TEST(PrintedClues, AListingTallerThanThePageGoesOnWithTheHeaderRepeatedAndLosesNothing) {
+  PuzzleState state;
+  state.WordCount = 44;
+  state.PuzzleNumber = 7;
+  for (int k = 1; k <= 44; ++k)
+    state.ClueTexts[static_cast<std::size_t>(k)] =
+        "clue " + std::to_string(k) + " is long enough to wrap onto a second line";
+  const CharMeasure measure;
+  // A column of 40 characters; every entry takes two lines and the gap (248).
+  constexpr double kBottom = 4000;
+  const std::vector<SheetLine> lines = layOutPrintedClues(state, {}, measure, kHeights, 9200, 1000, kBottom);
+  int pages = 0;
+  std::vector<std::string> texts;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const SheetLine& line = lines[i];
+    pages = std::max(pages, line.page + 1);
+    EXPECT_LE(line.y + (line.font == SheetFont::Header ? 60 : 100), kBottom) << line.text;
+    EXPECT_GE(line.page, i > 0 ? lines[i - 1].page : 0) << "pages run in order";
+    if (line.x == 9600) texts.push_back(line.text);
+  }
+  // Each page starts with the header and the collection line again.
+  for (int page = 0; page < pages; ++page) {
+    const auto first = std::find_if(lines.begin(), lines.end(), [&](const SheetLine& l) { return l.page == page; });
+    ASSERT_NE(first, lines.end());
+    EXPECT_EQ(first->text, "Combwise Puzzle ...hexagonal crosswords - Puz# 7");
+    EXPECT_EQ(first->y, 1000);
+    EXPECT_EQ(std::next(first)->text, " -  7");
+  }
+  EXPECT_GE(pages, 4);
+  // Every clue is there, in order: inside clues first, then outside.
+  std::vector<std::string> expected;
+  for (int first : {2, 1})
+    for (int k = first; k <= 44; k += 2) {
+      expected.push_back("clue " + std::to_string(k) + " is long enough to wrap onto a");
+      expected.push_back("second line");
+    }
+  EXPECT_EQ(texts, expected);
+  // The outside heading never ends a page without an entry after it.
+  const auto heading =
+      std::find_if(lines.begin(), lines.end(), [](const SheetLine& l) { return l.text == "OUTSIDE CLUES:"; });
+  ASSERT_NE(heading, lines.end());
+  EXPECT_EQ(std::next(heading)->page, heading->page);
 }
 
 }  // namespace

@@ -1,0 +1,241 @@
+// The session's files when things go wrong: an installed program keeps what
+// it writes in the user's folders, a failed creation leaves the shown
+// puzzle whole, read errors say where and why, a missing meanings file is
+// told once, and a collection with a damaged puzzle stays reachable.
+#include <sys/stat.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "core/files/config.h"
+#include "core/files/programfiles.h"
+#include "core/session/gamesession.h"
+#include "support/gamedata.h"
+#include "support/tempfolder.h"
+
+namespace combwise {
+namespace {
+
+using ::testing::HasSubstr;
+
+class QuietHost : public SessionHost {
+ public:
+  int ask(const std::string&, const std::string&) override { return kAnswerYes; }
+  bool confirm(const std::string&) override { return true; }
+  std::string chooseFile(const FileQuestion& question) override {
+    questions.push_back(question);
+    std::string path;
+    std::swap(path, nextFile);
+    return path;
+  }
+  void tell(const Message& message) override { told.push_back(message); }
+
+  std::string nextFile;  // empty: the dialog is cancelled
+  std::vector<FileQuestion> questions;
+  std::vector<Message> told;
+};
+
+// The first `count` puzzles of size 7 of the readymade collection.
+std::vector<std::string> readymadeLines(std::size_t count) {
+  std::vector<std::string> lines;
+  std::ifstream in(testing::gameDataPath("puzzles.txt"), std::ios::binary);
+  std::string line;
+  while (lines.size() < count && std::getline(in, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.rfind("7;", 0) == 0) lines.push_back(line);
+  }
+  return lines;
+}
+
+std::string writeLines(const std::string& path, const std::vector<std::string>& lines) {
+  std::ofstream out(path, std::ios::binary);
+  for (const auto& line : lines) out << line << "\r\n";
+  return path;
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+    names.push_back(entry.path().lexically_relative(folder).string());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// A program folder with the game's word data, either as a build leaves it
+// or installed where it cannot be written, with the user's folders beside.
+class SessionFilesTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    std::filesystem::create_directories(program);
+    for (const char* name : {kDefaultDictionaryFile, kMeaningsFile})
+      std::filesystem::copy_file(testing::gameDataPath(name), program + name);
+  }
+  ProgramFiles installed() const {
+    return ProgramFiles(program, {root.file("cfg") + "/", root.file("data") + "/"}, false);
+  }
+  CommandResult open(GameSession& session, const std::string& path) {
+    host.nextFile = path;
+    return session.loadCollection();
+  }
+
+  TempFolder root;
+  std::string program = root.file("program") + "/";
+  QuietHost host;
+};
+
+TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) {
+  const std::string collection = writeLines(root.file("ten.txt"), readymadeLines(10));
+  const std::vector<std::string> programBefore = namesIn(program);
+  {
+    // The user's own settings are read rather than the program folder's.
+    Settings own;
+    own.collectionPath = collection;
+    own.PuzzleNumber = 4;
+    std::filesystem::create_directories(root.file("cfg"));
+    ASSERT_TRUE(SavecfgFile(root.file("cfg") + "/", own).ok());
+    Settings other;
+    other.PuzzleNumber = 9;
+    ASSERT_TRUE(SavecfgFile(program, other).ok());
+  }
+  GameSession session(installed(), host);
+  session.startUp();
+  session.startStep();
+  EXPECT_EQ(session.puzzle().PuzzleNumber, 4);
+
+  session.arrow(2, 1);
+  EXPECT_TRUE(session.exit().close);
+  Settings saved;
+  ReadcfgFile(root.file("cfg") + "/", program, saved);
+  EXPECT_EQ(saved.PuzzleNumber, 5);
+  EXPECT_EQ(saved.dictionaryPath, program + kDefaultDictionaryFile);
+
+  // A created puzzle passes through the user's data folder, and the save
+  // dialog starts there.
+  EXPECT_EQ(session.create().status, "Puzzle created ...");
+  EXPECT_TRUE(std::filesystem::is_regular_file(root.file("data") + "/" + kTemporaryPuzzleFile));
+  session.savePuzzle();
+  EXPECT_EQ(host.questions.back().defaultDir, root.file("data") + "/");
+
+  std::filesystem::remove(program + kConfigFile);
+  EXPECT_EQ(namesIn(program), programBefore);
+}
+
+TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
+  const std::vector<std::string> lines = readymadeLines(3);
+  const std::string collection = writeLines(root.file("three.txt"), lines);
+  GameSession session(installed(), host);
+  session.startUp();
+  open(session, collection);
+  session.arrow(2, 1);
+  const PuzzleState before = session.puzzle();
+  const int sizeBefore = session.board().size();
+  ASSERT_EQ(before.PuzzleNumber, 2);
+
+  // The temporary puzzle cannot be written where a folder stands in its way.
+  std::filesystem::create_directories(root.file("data") + "/" + kTemporaryPuzzleFile);
+  session.nextSize();  // a size other than the shown one
+  const CommandResult failed = session.create();
+  ASSERT_EQ(failed.messages.size(), 1u);
+  EXPECT_THAT(failed.messages[0].text, HasSubstr(kTemporaryPuzzleFile));
+  EXPECT_TRUE(has(failed.redraw, Redraw::Board));
+
+  const PuzzleState& after = session.puzzle();
+  EXPECT_EQ(session.board().size(), sizeBefore);
+  EXPECT_EQ(after.Letters, before.Letters);
+  EXPECT_EQ(after.WordSlots, before.WordSlots);
+  EXPECT_EQ(after.ClueTexts, before.ClueTexts);
+  EXPECT_EQ(after.PuzzleNumber, 2);
+  EXPECT_EQ(after.PuzzleCount, 3);
+  EXPECT_EQ(after.CollectionPath, collection);
+
+  host.nextFile = root.file("saved.txt");
+  session.savePuzzle();
+  EXPECT_EQ(TempFolder::contentOf(root.file("saved.txt")), lines[1] + "\r\n");
+}
+
+TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
+  const std::vector<std::string> good = readymadeLines(3);
+  GameSession session(program, host);
+  session.startUp();
+
+  const std::string damaged = writeLines(root.file("damaged.txt"), {good[0], "7;ABC;NOCOMMA;", good[2]});
+  open(session, damaged);
+  const CommandResult next = session.arrow(2, 1);
+  EXPECT_EQ(next.status, "Error reading puzzle");
+  EXPECT_THAT(*next.statusTip, HasSubstr(damaged + ", line 2: "));
+  EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");  // past the bad one
+  EXPECT_EQ(session.puzzle().PuzzleNumber, 3);
+
+  const std::string pipe = root.file("pipe.txt");
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const CommandResult piped = open(session, pipe);
+  EXPECT_EQ(piped.status, "Error loading puzzle file");
+  EXPECT_THAT(*piped.statusTip, HasSubstr("not a regular file"));
+  EXPECT_THAT(*piped.statusTip, HasSubstr(pipe));
+  EXPECT_EQ(session.puzzle().CollectionPath, damaged);
+  // A recent file that has become a pipe says so rather than that it is missing.
+  std::filesystem::remove(damaged);
+  ASSERT_EQ(::mkfifo(damaged.c_str(), 0600), 0);
+  const CommandResult recent = session.openRecent(0);
+  ASSERT_EQ(recent.messages.size(), 1u);
+  EXPECT_THAT(recent.messages[0].text, HasSubstr("not a regular file"));
+}
+
+TEST_F(SessionFilesTest, ADamagedFirstPuzzleAtStartKeepsTheCollectionReachable) {
+  const std::vector<std::string> good = readymadeLines(3);
+  const std::string collection = writeLines(root.file("c.txt"), {std::string(3000, '\x01'), good[1], good[2]});
+  GameSession session(program, host);
+  session.startUp();
+  session.setStartCollection(collection, 1);
+  const CommandResult started = session.startStep();
+  EXPECT_EQ(started.status, "Error reading puzzle");
+  EXPECT_THAT(*started.statusTip, HasSubstr(collection + ", line 1: "));
+  EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");
+  EXPECT_EQ(session.puzzle().PuzzleNumber, 2);
+}
+
+TEST_F(SessionFilesTest, AMissingMeaningsFileIsToldOnceWhenFirstNeeded) {
+  std::filesystem::remove(program + kMeaningsFile);
+  const std::string collection = writeLines(root.file("three.txt"), readymadeLines(3));
+  GameSession session(program, host);
+  session.startUp();
+  session.setStartCollection(collection, 1);
+  const CommandResult started = session.startStep();
+  ASSERT_EQ(started.messages.size(), 1u);
+  EXPECT_THAT(started.messages[0].text, HasSubstr(program + kMeaningsFile));
+  EXPECT_THAT(started.messages[0].text, HasSubstr("No such file or directory"));
+  EXPECT_TRUE(session.arrow(2, 1).messages.empty());
+  EXPECT_TRUE(session.arrow(2, 1).messages.empty());
+}
+
+TEST_F(SessionFilesTest, StartUpNoticesNameTheSettingsFileOrTheSchemeFileAndShowNoRawBytes) {
+  writeLines(program + kConfigFile, {"\x01\xfe\x7fgarbage.col", "", "", "Arial", " 2000  -1  500 "});
+  GameSession session(program, host);
+  const CommandResult started = session.startUp();
+  ASSERT_EQ(started.messages.size(), 2u);
+  EXPECT_THAT(started.messages[0].text, HasSubstr(program + kConfigFile));
+  // No scheme file beside the program: the notice says so with the cause.
+  EXPECT_THAT(started.messages[1].text, HasSubstr(program + kSchemeFile + ": No such file or directory"));
+  for (const Message& message : started.messages) {
+    EXPECT_EQ(message.text.find("garbage"), std::string::npos) << message.text;
+    EXPECT_EQ(message.text.find('\x01'), std::string::npos);
+  }
+}
+
+TEST_F(SessionFilesTest, SaveOptionsThatCannotBeWrittenSayWhy) {
+  GameSession session(program, host);
+  session.startUp();
+  // A folder in the settings file's place stops even a privileged user.
+  std::filesystem::create_directories(program + kConfigFile + "/x");
+  const CommandResult saved = session.saveOptions();
+  ASSERT_TRUE(saved.status.has_value());
+  EXPECT_THAT(*saved.status, HasSubstr(program + kConfigFile));
+  EXPECT_THAT(*saved.status, HasSubstr(": "));
+}
+
+}  // namespace
+}  // namespace combwise
