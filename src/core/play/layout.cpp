@@ -49,8 +49,9 @@ BoardLayout LayOutBoard(const LayoutInput& in) {
   const double h = H / in.twipsPerPixelY;
   const double px = (out.CellX[1][1] + W / 2.0) / in.twipsPerPixelX;
   const double py = out.CellY[1][1] / in.twipsPerPixelY;
-  const double points[7][2] = {{px, py},         {px - w, py + h},     {px, py + 2 * h}, {px + 2 * w, py + 2 * h},
-                               {px + 3 * w, py + h}, {px + 2 * w, py}, {px, py}};
+  const double points[7][2] = {
+      {px, py},         {px - w, py + h}, {px, py + 2 * h}, {px + 2 * w, py + 2 * h}, {px + 3 * w, py + h},
+      {px + 2 * w, py}, {px, py}};
   for (int k = 0; k < 7; ++k) {
     out.HexTemplate[k] = {static_cast<int>(roundHalfEven(points[k][0])), static_cast<int>(roundHalfEven(points[k][1]))};
   }

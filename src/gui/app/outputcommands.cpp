@@ -117,9 +117,7 @@ void OutputCommands::printCurrentPuzzle() {
   target.endDocument();
 }
 
-std::string OutputCommands::printChoicesPath() const {
-  return m_window.session().files().writePath(kPrintChoicesFile);
-}
+std::string OutputCommands::printChoicesPath() const { return m_window.session().files().writePath(kPrintChoicesFile); }
 
 std::unique_ptr<PrintTarget> OutputCommands::choosePdfFile() {
   PrintChoices choices = readPrintChoices(printChoicesPath());
