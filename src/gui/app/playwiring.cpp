@@ -40,7 +40,7 @@ void MainWindow::wirePlay() {
   m_timerLabel->setToolTip("Time on this puzzle; it stops while the window is inactive");
   m_timerLabel->setAlignment(Qt::AlignCenter);
   m_timerLabel->setMinimumWidth(m_timerLabel->fontMetrics().horizontalAdvance("00:00:00") + 8);
-  statusBar()->insertPermanentWidget(0, m_timerLabel);
+  statusBar()->addPermanentWidget(m_timerLabel);
   m_clockTimer = new QTimer(this);
   m_clockTimer->setInterval(1000);
   connect(m_clockTimer, &QTimer::timeout, this, [this] {
