@@ -78,6 +78,7 @@ void MainWindow::buildCommandRow() {
   m_counter = new QLabel(this);
   m_counter->setObjectName("lblcounter");
   m_counter->setMinimumWidth(110);
+  m_counter->setMargin(4);  // a solved mark and time must not touch the frame
   m_counter->setAlignment(Qt::AlignCenter);
   commands->addWidget(m_counter);
   commands->addSpacing(10);
