@@ -172,25 +172,13 @@ class TestOutput : public QObject {
     QVERIFY(game.start());
     const QString pdf = game.folder.path("chosen.pdf");
     game.files.paths.enqueue(pdf);
-    // The timer only acts and records: a failed check there would leave the
-    // modal window open for ever.
     QString shown;
-    QTimer::singleShot(0, [&shown] {
-      QWidget* form = QApplication::activeModalWidget();
-      if (!form) return;
-      shown = form->objectName();
-      auto* range = form->findChild<QAbstractButton*>("optRange");
-      auto* text = form->findChild<QLineEdit*>("Text1");
-      auto* pdf = form->findChild<QAbstractButton*>("chkPdf");
-      auto* ok = form->findChild<QAbstractButton*>("cmdOK");
-      if (shown != "PrntForm" || !range || !text || !pdf || !ok) {
-        form->close();
-        return;
-      }
-      range->click();
-      text->setText("2-3");
-      pdf->setChecked(true);
-      ok->click();
+    onPrintWindow([&shown](QWidget& form) {
+      shown = form.objectName();
+      form.findChild<QAbstractButton*>("optRange")->click();
+      form.findChild<QLineEdit*>("Text1")->setText("2-3");
+      form.findChild<QAbstractButton*>("chkPdf")->setChecked(true);
+      form.findChild<QAbstractButton*>("cmdOK")->click();
     });
     game.trigger("mnuprint");
     QCOMPARE(shown, QString("PrntForm"));

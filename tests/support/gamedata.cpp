@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 namespace combwise::testing {
 
 std::string gameDataPath(const std::string& fileName) { return std::string(COMBWISE_BIN_DIR) + "/" + fileName; }
@@ -25,6 +27,17 @@ const Meanings& gameMeanings() {
     return loaded;
   }();
   return meanings;
+}
+
+std::vector<std::string> readymadeSevens(std::size_t count) {
+  std::vector<std::string> lines;
+  std::ifstream in(gameDataPath("puzzles.txt"), std::ios::binary);
+  std::string line;
+  while (lines.size() < count && std::getline(in, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.rfind("7;", 0) == 0) lines.push_back(line);
+  }
+  return lines;
 }
 
 }  // namespace combwise::testing

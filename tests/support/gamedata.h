@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/files/dictionary.h"
 
@@ -11,5 +12,7 @@ namespace combwise::testing {
 std::string gameDataPath(const std::string& fileName);
 const Dictionary& gameDictionary();
 const Meanings& gameMeanings();
+// The first `count` puzzles of size 7 of the readymade collection, in file order.
+std::vector<std::string> readymadeSevens(std::size_t count);
 
 }  // namespace combwise::testing

@@ -53,18 +53,6 @@ class ScriptedHost : public SessionHost {
   int busyChanges = 0;
 };
 
-// The readymade puzzles of size 7, in file order.
-std::vector<std::string> readymadeSevens() {
-  std::vector<std::string> lines;
-  std::ifstream in(testing::gameDataPath("puzzles.txt"), std::ios::binary);
-  std::string line;
-  while (std::getline(in, line)) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (line.rfind("7;", 0) == 0) lines.push_back(line);
-  }
-  return lines;
-}
-
 class GameSessionTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -78,7 +66,7 @@ class GameSessionTest : public ::testing::Test {
     return home.file(name);
   }
   std::string collection(const std::string& name, std::size_t count, std::size_t from = 0) const {
-    const std::vector<std::string> all = readymadeSevens();
+    const std::vector<std::string> all = testing::readymadeSevens(from + count);
     return write(name, {all.begin() + static_cast<long>(from), all.begin() + static_cast<long>(from + count)});
   }
   CommandResult open(const std::string& path) {
@@ -98,7 +86,9 @@ class GameSessionTest : public ::testing::Test {
   GameSession session{home.folder(), host};
 };
 
-TEST_F(GameSessionTest, ArrowsWrapAtTheEndsAndTheRightButtonJumpsToThem) {
+// Where each arrow leads is the browsing rules' own test; here the session
+// reads that puzzle.
+TEST_F(GameSessionTest, ArrowsReadThePuzzleTheyLeadTo) {
   session.startUp();
   const CommandResult loaded = open(collection("ten.txt", 10));
   EXPECT_EQ(loaded.status, "Puzzle file read");
@@ -106,10 +96,6 @@ TEST_F(GameSessionTest, ArrowsWrapAtTheEndsAndTheRightButtonJumpsToThem) {
   EXPECT_EQ(host.questions.at(0).title, "Select a saved game file to load");
 
   EXPECT_EQ(session.arrow(0, 1).status, "Puzzle read");
-  EXPECT_EQ(number(), 10);
-  session.arrow(2, 1);
-  EXPECT_EQ(number(), 1);
-  session.arrow(2, 2);
   EXPECT_EQ(number(), 10);
   session.arrow(0, 2);
   EXPECT_EQ(number(), 1);
@@ -119,10 +105,8 @@ TEST_F(GameSessionTest, ArrowsWrapAtTheEndsAndTheRightButtonJumpsToThem) {
     EXPECT_LE(number(), 10);
   }
   EXPECT_TRUE(session.arrow(3, 1).empty());
-}
 
-TEST_F(GameSessionTest, AOnePuzzleCollectionDoesNotEvenReload) {
-  session.startUp();
+  // A one-puzzle collection does not even reload.
   open(collection("one.txt", 1));
   ASSERT_EQ(session.puzzle().PuzzleCount, 1);
   for (int k = 0; k < 3; ++k) {
@@ -134,7 +118,7 @@ TEST_F(GameSessionTest, AOnePuzzleCollectionDoesNotEvenReload) {
 
 TEST_F(GameSessionTest, AFailedReadKeepsTheNewNumberAndACollectionThatCannotBeReadKeepsTheOldOne) {
   session.startUp();
-  const std::vector<std::string> all = readymadeSevens();
+  const std::vector<std::string> all = testing::readymadeSevens(2);
   const std::string path = write("mixed.txt", {all[0], "7;ABC;NOCOMMA;", all[1]});
   open(path);
   const CommandResult next = session.arrow(2, 1);
@@ -323,13 +307,8 @@ TEST_F(GameSessionTest, CancelStopsACreationThatCannotSucceed) {
 TEST_F(GameSessionTest, SizeLabelCyclesAndFollowsTheShownPuzzle) {
   session.startUp();
   EXPECT_EQ(session.sizeToCreate(), 7);
-  std::vector<int> sizes;
-  for (int i = 0; i < 4; ++i) {
-    EXPECT_TRUE(has(session.nextSize().redraw, Redraw::Size));
-    sizes.push_back(session.sizeToCreate());
-  }
-  EXPECT_EQ(sizes, (std::vector<int>{10, 17, 22, 7}));
-  session.nextSize();
+  EXPECT_TRUE(has(session.nextSize().redraw, Redraw::Size));  // the cycle itself is the board's
+  EXPECT_EQ(session.sizeToCreate(), 10);
   open(collection("ten.txt", 2));
   EXPECT_EQ(session.sizeToCreate(), 7);
 }

@@ -39,18 +39,6 @@ class QuietHost : public SessionHost {
   std::vector<Message> told;
 };
 
-// The first `count` puzzles of size 7 of the readymade collection.
-std::vector<std::string> readymadeLines(std::size_t count) {
-  std::vector<std::string> lines;
-  std::ifstream in(testing::gameDataPath("puzzles.txt"), std::ios::binary);
-  std::string line;
-  while (lines.size() < count && std::getline(in, line)) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (line.rfind("7;", 0) == 0) lines.push_back(line);
-  }
-  return lines;
-}
-
 std::string writeLines(const std::string& path, const std::vector<std::string>& lines) {
   std::ofstream out(path, std::ios::binary);
   for (const auto& line : lines) out << line << "\r\n";
@@ -88,7 +76,7 @@ class SessionFilesTest : public ::testing::Test {
 };
 
 TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) {
-  const std::string collection = writeLines(root.file("ten.txt"), readymadeLines(10));
+  const std::string collection = writeLines(root.file("ten.txt"), testing::readymadeSevens(10));
   const std::vector<std::string> programBefore = namesIn(program);
   {
     // The user's own settings are read rather than the program folder's.
@@ -125,7 +113,7 @@ TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) 
 }
 
 TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
-  const std::vector<std::string> lines = readymadeLines(3);
+  const std::vector<std::string> lines = testing::readymadeSevens(3);
   const std::string collection = writeLines(root.file("three.txt"), lines);
   GameSession session(installed(), host);
   session.startUp();
@@ -158,7 +146,7 @@ TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
 }
 
 TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
-  const std::vector<std::string> good = readymadeLines(3);
+  const std::vector<std::string> good = testing::readymadeSevens(3);
   GameSession session(program, host);
   session.startUp();
 
@@ -186,7 +174,7 @@ TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
 }
 
 TEST_F(SessionFilesTest, ADamagedFirstPuzzleAtStartKeepsTheCollectionReachable) {
-  const std::vector<std::string> good = readymadeLines(3);
+  const std::vector<std::string> good = testing::readymadeSevens(3);
   const std::string collection = writeLines(root.file("c.txt"), {std::string(3000, '\x01'), good[1], good[2]});
   GameSession session(program, host);
   session.startUp();
@@ -200,7 +188,7 @@ TEST_F(SessionFilesTest, ADamagedFirstPuzzleAtStartKeepsTheCollectionReachable) 
 
 TEST_F(SessionFilesTest, AMissingMeaningsFileIsToldOnceWhenFirstNeeded) {
   std::filesystem::remove(program + kMeaningsFile);
-  const std::string collection = writeLines(root.file("three.txt"), readymadeLines(3));
+  const std::string collection = writeLines(root.file("three.txt"), testing::readymadeSevens(3));
   GameSession session(program, host);
   session.startUp();
   session.setStartCollection(collection, 1);
