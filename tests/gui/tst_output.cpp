@@ -17,7 +17,7 @@
 
 #include "core/play/layout.h"
 #include "gui/app/mainwindow.h"
-#include "gui/app/outputcommands.h"
+#include "gui/output/outputcommands.h"
 #include "gui/play/boardpicture.h"
 #include "render/pageimage.h"
 #include "render/pdftarget.h"

@@ -18,7 +18,7 @@
 #include <QVBoxLayout>
 #include <functional>
 
-#include "gui/app/outputcommands.h"
+#include "gui/output/outputcommands.h"
 #include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
 #include "gui/ui/boxcontrol.h"

@@ -1,5 +1,5 @@
 // The output and collection-tool commands of the main window.
-#include "gui/app/outputcommands.h"
+#include "gui/output/outputcommands.h"
 
 #include <QAction>
 #include <QApplication>
