@@ -2,13 +2,43 @@
 #include "core/generator/letters.h"
 
 #include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <utility>
 
 #include "core/model/text.h"
 
 namespace combwise {
 
+namespace {
+
+// Words of up to eight letters are shuffled in one register: the letters
+// themselves are swapped, byte by byte, which gives the same order as
+// swapping their positions and reading the letters afterwards.
+std::size_t shuffleShortInto(std::string_view word, RandomSource& random, char* out) {
+  const std::size_t length = word.size();
+  std::uint64_t packed = 0;
+  std::memcpy(&packed, word.data(), length);
+  std::array<unsigned, 16> shift;
+  const double span = static_cast<double>(length);
+  std::size_t d = 0;
+  // draw x length + 1 lies in [1, length + 1), so truncation is the floor.
+  random.forEachDraw(2 * length, [&](double draw) { shift[d++] = 8 * (static_cast<unsigned>(draw * span + 1) - 1); });
+  for (std::size_t i = 0; i < length; ++i) {
+    const unsigned a = shift[2 * i];
+    const unsigned b = shift[2 * i + 1];
+    const std::uint64_t x = ((packed >> a) ^ (packed >> b)) & 0xff;
+    packed ^= (x << a) | (x << b);
+  }
+  std::memcpy(out, &packed, length);
+  return length;
+}
+
+}  // namespace
+
 std::size_t shuffleLettersInto(std::string_view word, RandomSource& random, char* out) {
+  if (std::endian::native == std::endian::little && word.size() <= 8) return shuffleShortInto(word, random, out);
   const std::size_t length = std::min(word.size(), kShuffleCapacity);
   // Only positions 1..length are ever read, so the rest stays unset.
   std::array<unsigned char, kShuffleCapacity + 1> buffer;

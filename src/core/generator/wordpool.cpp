@@ -90,46 +90,62 @@ void WordPool::shuffleStraightforward(RandomSource& random) {
 // without a single unpredictable branch. Only words that drew the same key
 // (a few dozen in thousands) are then put in word order, stably, since the
 // old position comes last.
+//
+// Each value holds the drawn key above the word's index. When the indexes
+// fit in 15 bits, key and index share 32 bits: half the memory traffic, and
+// a pool's scratch stays in the first-level cache.
 void WordPool::shuffleFast(RandomSource& random) {
+  if (m_order.empty()) return;
+  if (m_order.size() <= (std::size_t{1} << kNarrowIndexBits)) {
+    sortByDrawnKeys<std::uint32_t, kNarrowIndexBits>(random, m_narrow);
+  } else {
+    sortByDrawnKeys<std::uint64_t, 32>(random, m_scratch);
+  }
+}
+
+template <typename Value, unsigned kIndexBits>
+void WordPool::sortByDrawnKeys(RandomSource& random, std::vector<Value>& scratch) {
   const std::size_t n = m_order.size();
-  if (n == 0) return;
   constexpr unsigned kLowBits = 9;
   constexpr std::uint32_t kLowMask = (1u << kLowBits) - 1;
   constexpr std::size_t kHighBuckets = (static_cast<std::size_t>(kKeySpan) >> kLowBits) + 1;
-  constexpr std::uint64_t kWordMask = 0xffffffffu;
+  constexpr Value kIndexMask = (Value{1} << kIndexBits) - 1;
 
   std::array<std::uint32_t, kLowMask + 2> low{};
   std::array<std::uint32_t, kHighBuckets + 1> high{};
-  m_scratch.resize(n);
-  m_sorted.resize(n);
-  // Each value is the drawn key above the word's index.
-  std::uint64_t* values = m_scratch.data();
+  scratch.resize(2 * n);
+  Value* values = scratch.data();
+  Value* byLow = values + n;
   const int* order = m_order.data();
   std::size_t i = 0;
   random.forEachDraw(n, [&](double draw) {
     const auto key = static_cast<std::uint32_t>(draw * kKeySpan + 1);  // positive, so truncation is the floor
-    values[i] = (static_cast<std::uint64_t>(key) << 32) | static_cast<std::uint32_t>(order[i]);
+    values[i] = (static_cast<Value>(key) << kIndexBits) | static_cast<Value>(order[i]);
     ++i;
     ++low[(key & kLowMask) + 1];
     ++high[(key >> kLowBits) + 1];
   });
   for (std::size_t b = 1; b < low.size(); ++b) low[b] += low[b - 1];
   for (std::size_t b = 1; b < high.size(); ++b) high[b] += high[b - 1];
-  std::uint64_t* byLow = m_sorted.data();
-  for (std::size_t k = 0; k < n; ++k) byLow[low[(values[k] >> 32) & kLowMask]++] = values[k];
-  for (std::size_t k = 0; k < n; ++k) values[high[byLow[k] >> (32 + kLowBits)]++] = byLow[k];
+  for (std::size_t k = 0; k < n; ++k) byLow[low[(values[k] >> kIndexBits) & kLowMask]++] = values[k];
+  for (std::size_t k = 0; k < n; ++k) values[high[byLow[k] >> (kIndexBits + kLowBits)]++] = byLow[k];
 
+  int* out = m_order.data();
+  out[0] = static_cast<int>(values[0] & kIndexMask);
   for (std::size_t k = 1; k < n; ++k) {
-    if ((values[k] >> 32) != (values[k - 1] >> 32)) continue;
-    const std::size_t first = k - 1;
-    std::size_t last = k + 1;
-    while (last < n && (values[last] >> 32) == (values[first] >> 32)) ++last;
-    std::stable_sort(values + first, values + last, [this](std::uint64_t a, std::uint64_t b) {
-      return m_rank[static_cast<std::size_t>(a & kWordMask)] < m_rank[static_cast<std::size_t>(b & kWordMask)];
-    });
-    k = last - 1;
+    out[k] = static_cast<int>(values[k] & kIndexMask);
+    if ((values[k] ^ values[k - 1]) > kIndexMask) continue;
+    // Words k-1 and k drew the same key: insert word k among the earlier
+    // words of that key by rank; equal ranks keep their old order.
+    const int word = out[k];
+    const std::uint32_t rank = m_rank[static_cast<std::size_t>(word)];
+    std::size_t at = k;
+    for (; at > 0 && (values[at - 1] >> kIndexBits) == (values[k] >> kIndexBits) &&
+           m_rank[static_cast<std::size_t>(out[at - 1])] > rank;
+         --at)
+      out[at] = out[at - 1];
+    out[at] = word;
   }
-  for (std::size_t k = 0; k < n; ++k) m_order[k] = static_cast<int>(values[k] & kWordMask);
 }
 
 const std::vector<int>& WordPool::positions() const {

@@ -55,9 +55,12 @@ class WordPool {
  private:
   void shuffleStraightforward(RandomSource& random);
   void shuffleFast(RandomSource& random);
+  template <typename Value, unsigned kIndexBits>
+  void sortByDrawnKeys(RandomSource& random, std::vector<Value>& scratch);
   const std::vector<int>& positions() const;
 
   static constexpr std::size_t kCompactStride = 8;
+  static constexpr unsigned kNarrowIndexBits = 15;  // 17 bits left hold any key
 
   const std::vector<std::string>* m_words;
   std::vector<char> m_compact;  // the words at a fixed stride, when all are short enough
@@ -65,9 +68,9 @@ class WordPool {
   std::vector<int> m_order;                                      // pool position -> word index
   std::vector<std::uint32_t> m_rank;                             // word index -> rank by case-ignoring order
   std::unordered_map<std::string, std::vector<int>> m_anagrams;  // sorted letters -> word indexes
-  std::vector<std::uint64_t> m_scratch;
-  std::vector<std::uint64_t> m_sorted;
-  mutable std::vector<int> m_position;  // word index -> pool position
+  std::vector<std::uint32_t> m_narrow;                           // the shuffle's scratch, for up to 2^15 words
+  std::vector<std::uint64_t> m_scratch;                          // the same for more words
+  mutable std::vector<int> m_position;                           // word index -> pool position
   mutable bool m_positionsValid = false;
 };
 
