@@ -87,11 +87,11 @@ std::string progressKey(const std::string& collection) {
   return absolute.lexically_normal().string();
 }
 
-void ProgressStore::keepEntries(const std::string& collection, int number, const Board& board,
-                                const PuzzleState& state) {
+void ProgressStore::keepEntries(const std::string& collection, int number, const Board& board, const PuzzleState& state,
+                                long long seconds) {
   const std::string key = progressKey(collection);
   if (!storableCollection(key) || number < 1) return;
-  PuzzleEntries kept{key, number, {}};
+  PuzzleEntries kept{key, number, {}, std::clamp(seconds, 0LL, kMaxSeconds)};
   for (int r = 1; r <= board.rows(); ++r) {
     for (int c = 1; c <= board.cols(); ++c) {
       if (board.HexAt(r, c) == 0 || board.FreeCell(r, c) == 1) continue;
@@ -103,10 +103,18 @@ void ProgressStore::keepEntries(const std::string& collection, int number, const
   if (!kept.cells.empty()) putFirst(m_entries, std::move(kept), kMaxEntryRecords);
 }
 
-bool ProgressStore::restoreEntries(const std::string& collection, int number, const Board& board,
-                                   PuzzleState& state) const {
+bool ProgressStore::keepSeconds(const std::string& collection, int number, long long seconds) {
+  const auto kept = findRecord(m_entries, progressKey(collection), number);
+  seconds = std::clamp(seconds, 0LL, kMaxSeconds);
+  if (kept == m_entries.end() || kept->seconds == seconds) return false;
+  kept->seconds = seconds;
+  return true;
+}
+
+std::optional<long long> ProgressStore::restoreEntries(const std::string& collection, int number, const Board& board,
+                                                       PuzzleState& state) const {
   const PuzzleEntries* kept = entriesOf(collection, number);
-  if (!kept) return false;
+  if (!kept) return std::nullopt;
   for (int r = 1; r <= board.rows(); ++r) {
     for (int c = 1; c <= board.cols(); ++c) {
       if (board.HexAt(r, c) != 0 && board.FreeCell(r, c) == 0) state.Entries.at(r, c).clear();
@@ -116,7 +124,7 @@ bool ProgressStore::restoreEntries(const std::string& collection, int number, co
     if (board.HexAt(cell.row, cell.col) != 0 && board.FreeCell(cell.row, cell.col) == 0)
       state.Entries.at(cell.row, cell.col) = std::string(1, cell.letter);
   }
-  return true;
+  return kept->seconds;
 }
 
 const PuzzleEntries* ProgressStore::entriesOf(const std::string& collection, int number) const {
@@ -149,7 +157,7 @@ std::optional<SolvedRecord> ProgressStore::solved(const std::string& collection,
 std::string ProgressStore::text() const {
   std::string text = std::string(kProgressHeader) + "\r\n";
   for (const auto& kept : m_entries) {
-    text += "entries " + std::to_string(kept.number) + " ";
+    text += "entries " + std::to_string(kept.number) + " " + std::to_string(kept.seconds) + " ";
     for (std::size_t i = 0; i < kept.cells.size(); ++i) {
       const auto& cell = kept.cells[i];
       if (i > 0) text += ",";
@@ -170,13 +178,20 @@ std::optional<std::string> ProgressStore::addLine(std::string_view line) {
   const std::string_view kind = nextField(line);
   const auto number = wholeNumber(nextField(line), 1, 1'000'000'000);
   if (kind == "entries") {
-    const auto cells = parseCells(nextField(line));
-    if (!number || !cells) return "the puzzle number or the letters cannot be read";
+    // Lines from before the time was kept go straight on to the letters.
+    std::string_view field = nextField(line);
+    std::optional<long long> seconds = 0;
+    if (field.find('=') == std::string_view::npos) {
+      seconds = wholeNumber(field, 0LL, kMaxSeconds);
+      field = nextField(line);
+    }
+    const auto cells = parseCells(field);
+    if (!number || !seconds || !cells) return "the puzzle number, the time or the letters cannot be read";
     const std::string collection(line);
     if (collection.empty() || collection.front() != '/') return "the collection is not an absolute path";
     if (findRecord(m_entries, collection, *number) != m_entries.end()) return "the puzzle is listed twice";
     if (m_entries.size() >= kMaxEntryRecords) return "more puzzles with letters than are kept";
-    m_entries.push_back({collection, *number, *cells});
+    m_entries.push_back({collection, *number, *cells, *seconds});
     return std::nullopt;
   }
   if (kind == "solved") {

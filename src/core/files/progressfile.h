@@ -6,11 +6,15 @@
 // The file is plain text with CR LF lines (LF read as well):
 //
 //   combwise progress 1
-//   entries 7 3.8=A,3.9=B,4.10=@ /home/me/puzzles.txt
+//   entries 7 64 3.8=A,3.9=B,4.10=@ /home/me/puzzles.txt
 //   solved 7 125 98 /home/me/puzzles.txt
 //
-// "entries NUMBER CELLS COLLECTION": CELLS lists ROW.COL=LETTER for each
-// cell holding a letter (rows 1..12, columns 1..18, letters A..Z and @).
+// "entries NUMBER SECONDS CELLS COLLECTION": SECONDS is the time spent on
+// the puzzle so far, so its timer goes on from there; CELLS lists
+// ROW.COL=LETTER for each cell holding a letter (rows 1..12, columns 1..18,
+// letters A..Z and @). Files of earlier versions have no SECONDS ("entries
+// NUMBER CELLS COLLECTION"): such a line reads with no time spent, told
+// apart by its third field, which holds a "=" only when it is CELLS.
 // "solved NUMBER SECONDS BEST COLLECTION": the time of the last solve and
 // the best time, in whole seconds. COLLECTION, an absolute path, is the
 // rest of the line, blanks included. Newest records come first; a line
@@ -59,6 +63,7 @@ struct PuzzleEntries {
   std::string collection;  // as progressKey gives it
   int number = 0;
   std::vector<ProgressCell> cells;
+  long long seconds = 0;  // the time spent on the puzzle up to these letters
   friend bool operator==(const PuzzleEntries&, const PuzzleEntries&) = default;
 };
 
@@ -73,12 +78,19 @@ struct SolvedRecord {
 class ProgressStore {
  public:
   // Keeps the letters on the puzzle's non-given cells as the player's
-  // letters for that puzzle, newest first; a puzzle without any letters is
-  // forgotten. Collection paths with a line break cannot be kept.
-  void keepEntries(const std::string& collection, int number, const Board& board, const PuzzleState& state);
+  // letters for that puzzle, with the `seconds` spent on it, newest first;
+  // a puzzle without any letters is forgotten. Collection paths with a line
+  // break cannot be kept.
+  void keepEntries(const std::string& collection, int number, const Board& board, const PuzzleState& state,
+                   long long seconds);
+  // Sets the time spent on a puzzle whose letters are kept, leaving the
+  // letters and the order as they are. True when the time changed.
+  bool keepSeconds(const std::string& collection, int number, long long seconds);
   // Puts the kept letters back: every non-given cell of the puzzle gets its
-  // kept letter or none. False, changing nothing, when none are kept.
-  bool restoreEntries(const std::string& collection, int number, const Board& board, PuzzleState& state) const;
+  // kept letter or none. Returns the time kept with them; nothing, changing
+  // nothing, when none are kept.
+  std::optional<long long> restoreEntries(const std::string& collection, int number, const Board& board,
+                                          PuzzleState& state) const;
   const PuzzleEntries* entriesOf(const std::string& collection, int number) const;
 
   // Records a solve in `seconds`; returns the record with the best time

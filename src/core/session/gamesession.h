@@ -114,8 +114,9 @@ class GameSession {
   int selectedHexagon() const;
 
   // --- Progress, timer and solved records (progress.cpp) ---
-  // Writes the progress file when letters or records changed since the
-  // last write. A failed write is reported once a run.
+  // Writes the progress file when letters, records or the time spent on a
+  // puzzle with kept letters changed since the last write. A failed write
+  // is reported once a run.
   CommandResult saveProgress();
   bool progressUnsaved() const { return m_progressUnsaved || m_lettersChanged; }
   // The window became active or inactive (minimised counts as inactive):
@@ -244,6 +245,7 @@ class GameSession {
   int m_shownNumber = 0;
   bool m_windowActive = true;
   bool m_lettersChanged = false;   // since they were last kept in the store
+  bool m_timeKept = false;         // the timer counts on from the kept letters' time
   bool m_progressUnsaved = false;  // the store differs from the file
   bool m_progressErrorShown = false;
 };

@@ -5,6 +5,7 @@
 #include "core/files/programfiles.h"
 #include "core/model/text.h"
 #include "core/play/history.h"
+#include "core/play/verify.h"
 #include "core/session/gamesession.h"
 
 namespace combwise {
@@ -53,11 +54,16 @@ bool GameSession::keepsProgress() const {
 }
 
 void GameSession::keepShownEntries() {
-  if (!m_lettersChanged) return;
+  const bool lettersChanged = m_lettersChanged;
   m_lettersChanged = false;
   if (!keepsProgress()) return;
-  m_progress.keepEntries(m_shownCollection, m_shownNumber, m_board, m_puzzle);
-  m_progressUnsaved = true;
+  if (lettersChanged) {
+    m_progress.keepEntries(m_shownCollection, m_shownNumber, m_board, m_puzzle, m_timer.elapsedSeconds());
+    m_timeKept = true;
+    m_progressUnsaved = true;
+  } else if (m_timeKept && m_progress.keepSeconds(m_shownCollection, m_shownNumber, m_timer.elapsedSeconds())) {
+    m_progressUnsaved = true;  // the letters stand, the time moved on
+  }
 }
 
 void GameSession::puzzleChanged(CommandResult& result) {
@@ -69,15 +75,22 @@ void GameSession::puzzleChanged(CommandResult& result) {
   m_shownCollection = m_puzzle.CollectionPath;
   m_shownNumber = m_puzzle.PuzzleNumber;
   m_lettersChanged = false;
+  m_timeKept = false;
   if (m_extraOptions.cleanBoardEachPuzzle && !startingUp) {
     m_puzzle.Entries.clear();
     m_puzzle.UndoList.clear();
   }
   // A puzzle that comes up without the player's letters gets back those
-  // kept for it; letters carried over from the puzzle before stay.
+  // kept for it, and its timer goes on from the time spent on them; letters
+  // carried over from the puzzle before stay, and the time starts afresh.
+  std::optional<long long> keptSeconds;
   if (keepsProgress() && (startingUp || !hasLetters(m_board, m_puzzle)))
-    m_progress.restoreEntries(m_shownCollection, m_shownNumber, m_board, m_puzzle);
-  m_timer.start({}, !m_windowActive);
+    keptSeconds = m_progress.restoreEntries(m_shownCollection, m_shownNumber, m_board, m_puzzle);
+  m_timeKept = keptSeconds.has_value();
+  m_timer.start(std::chrono::seconds(keptSeconds.value_or(0)), !m_windowActive);
+  // Letters kept at a solve come back solved: the time stays at the solve,
+  // and verifying them again records nothing new.
+  if (keptSeconds && solvedRecord() && unfinishedHexagons(m_board, m_puzzle).empty()) m_timer.stop();
   result.redraw |= Redraw::Record | Redraw::Board;
   if (m_progressUnsaved) result.add(saveProgress());
 }

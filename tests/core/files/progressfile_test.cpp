@@ -27,8 +27,11 @@ TEST(ProgressFile, KeepsLettersAndSolvesAcrossASaveAndARead) {
   p.state.Entries.at(1, 5) = "G";  // a given cell: not the player's to keep
   p.state.Entries.at(0, 0) = "Z";  // outside the puzzle
   ProgressStore store;
-  store.keepEntries(collection, 3, p.board, p.state);
-  store.keepEntries(folder.file("other.txt"), 1, p.board, p.state);
+  store.keepEntries(collection, 3, p.board, p.state, 53);
+  store.keepEntries(folder.file("other.txt"), 1, p.board, p.state, 0);
+  EXPECT_TRUE(store.keepSeconds(folder.file("other.txt"), 1, 7));
+  EXPECT_FALSE(store.keepSeconds(folder.file("other.txt"), 1, 7));
+  EXPECT_FALSE(store.keepSeconds(collection, 4, 7));  // no letters kept: no time either
   EXPECT_EQ(store.recordSolved(collection, 3, 125).bestSeconds, 125);
   EXPECT_EQ(store.recordSolved(collection, 3, 98).bestSeconds, 98);
   EXPECT_EQ(store.recordSolved(collection, 3, 140), (SolvedRecord{collection, 3, 140, 98}));
@@ -36,8 +39,8 @@ TEST(ProgressFile, KeepsLettersAndSolvesAcrossASaveAndARead) {
   const std::string path = progressPath(folder.folder());
   ASSERT_TRUE(writeProgressFile(path, store).ok());
   const std::string text = TempFolder::contentOf(path);
-  EXPECT_EQ(text.substr(0, text.find("other")), "combwise progress 1\r\nentries 1 2.7=A,3.8=@ " + folder.folder());
-  EXPECT_NE(text.find("entries 3 2.7=A,3.8=@ " + collection + "\r\n"), std::string::npos);
+  EXPECT_EQ(text.substr(0, text.find("other")), "combwise progress 1\r\nentries 1 7 2.7=A,3.8=@ " + folder.folder());
+  EXPECT_NE(text.find("entries 3 53 2.7=A,3.8=@ " + collection + "\r\n"), std::string::npos);
   EXPECT_NE(text.find("solved 3 140 98 " + collection + "\r\n"), std::string::npos);
 
   const ProgressRead read = readProgressFile(path);
@@ -46,7 +49,7 @@ TEST(ProgressFile, KeepsLettersAndSolvesAcrossASaveAndARead) {
 
   Puzzle7 later;
   later.state.Entries.at(4, 7) = "Q";  // a letter left from another puzzle on this board
-  ASSERT_TRUE(read.store.restoreEntries(collection, 3, later.board, later.state));
+  EXPECT_EQ(read.store.restoreEntries(collection, 3, later.board, later.state), 53);
   EXPECT_EQ(later.state.Entries.at(2, 7), "A");
   EXPECT_EQ(later.state.Entries.at(3, 8), "@");
   EXPECT_EQ(later.state.Entries.at(4, 7), "");
@@ -63,7 +66,7 @@ TEST(ProgressFile, KeepsLettersAndSolvesAcrossASaveAndARead) {
 
   // Clearing a puzzle's letters forgets it.
   ProgressStore cleared = read.store;
-  cleared.keepEntries(collection, 3, Puzzle7().board, Puzzle7().state);
+  cleared.keepEntries(collection, 3, Puzzle7().board, Puzzle7().state, 60);
   EXPECT_EQ(cleared.entriesOf(collection, 3), nullptr);
 }
 
@@ -71,12 +74,15 @@ TEST(ProgressFile, DamagedLinesAreLeftOutAndReported) {
   std::vector<std::string> problems;
   const ProgressStore store = ProgressStore::parse(
       "combwise progress 1\n"
-      "entries 2 1.5=A /a/b.txt\r\n"
+      "entries 2 1.5=A /a/b.txt\r\n"  // written before the time was kept
+      "entries 4 61 2.7=B /a/b c.txt\n"
       "entries 0 1.5=A /a/b.txt\n"   // no puzzle 0
       "entries 3 13.5=A /a/b.txt\n"  // row beyond the grid
       "entries 3 1.5=a /a/b.txt\n"   // not a letter the board takes
       "entries 3 1.5=A,1.5=B /a/b.txt\n"
       "entries 3 1.5=A relative.txt\n"
+      "entries 3 -1 1.5=A /a/b.txt\n"
+      "entries 3 61 /a/b.txt\n"
       "entries 2 1.6=B /a/b.txt\n"  // listed twice: the newer line counts
       "solved 2 10 20 /a/b.txt\n"   // best worse than the last time
       "solved 2 x 1 /a/b.txt\n"
@@ -85,13 +91,15 @@ TEST(ProgressFile, DamagedLinesAreLeftOutAndReported) {
       "something else\n"
       "entries",
       "progress.txt", problems);
-  ASSERT_EQ(store.entries().size(), 1u);
-  EXPECT_EQ(store.entries()[0], (PuzzleEntries{"/a/b.txt", 2, {{1, 5, 'A'}}}));
+  ASSERT_EQ(store.entries().size(), 2u);
+  EXPECT_EQ(store.entries()[0], (PuzzleEntries{"/a/b.txt", 2, {{1, 5, 'A'}}, 0}));
+  EXPECT_EQ(store.entries()[1], (PuzzleEntries{"/a/b c.txt", 4, {{2, 7, 'B'}}, 61}));
   ASSERT_EQ(store.solvedRecords().size(), 1u);
   EXPECT_EQ(store.solvedRecords()[0], (SolvedRecord{"/a/b c.txt", 2, 30, 20}));
-  ASSERT_EQ(problems.size(), 10u);
-  EXPECT_EQ(problems[0], "progress.txt line 3 left out: the puzzle number or the letters cannot be read");
-  EXPECT_EQ(problems[6], "progress.txt line 9 left out: the puzzle number or the times cannot be read");
+  ASSERT_EQ(problems.size(), 12u);
+  EXPECT_EQ(problems[0], "progress.txt line 4 left out: the puzzle number, the time or the letters cannot be read");
+  EXPECT_EQ(problems[5], "progress.txt line 9 left out: the puzzle number, the time or the letters cannot be read");
+  EXPECT_EQ(problems[8], "progress.txt line 12 left out: the puzzle number or the times cannot be read");
 
   std::vector<std::string> many;
   std::string junk;
@@ -105,7 +113,7 @@ TEST(ProgressFile, StaysBoundedAndFailsWithTheFileNamed) {
   Puzzle7 p;
   p.state.Entries.at(2, 7) = "A";
   ProgressStore store;
-  for (int n = 1; n <= static_cast<int>(kMaxEntryRecords) + 5; ++n) store.keepEntries("/c.txt", n, p.board, p.state);
+  for (int n = 1; n <= static_cast<int>(kMaxEntryRecords) + 5; ++n) store.keepEntries("/c.txt", n, p.board, p.state, n);
   EXPECT_EQ(store.entries().size(), kMaxEntryRecords);
   EXPECT_EQ(store.entries().front().number, static_cast<int>(kMaxEntryRecords) + 5);  // the oldest went
   EXPECT_EQ(store.entriesOf("/c.txt", 5), nullptr);

@@ -1,7 +1,8 @@
 // The session's rules for play people come back to: letters kept between
 // runs without replacing those carried over from the puzzle before, the
-// clean-board option, the timer and the solved record, what keyboard moves
-// and clearing letters report, and a progress file that cannot be written.
+// clean-board option, the timer and the solved record (the time spent going
+// on across runs), what keyboard moves and clearing letters report, and a
+// progress file that cannot be written.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -107,7 +108,7 @@ TEST_F(PlayProgressTest, ACleanBoardOptionClearsLettersForAnotherPuzzleOnlyAndBr
   EXPECT_EQ(at(*session, 3, 6), "Z");
 }
 
-TEST_F(PlayProgressTest, TheTimerRunsWhileTheWindowIsActiveStopsWhenSolvedAndKeepsTheBestTime) {
+TEST_F(PlayProgressTest, TheTimerRunsWhileTheWindowIsActiveStopsWhenSolvedAndGoesOnAcrossRuns) {
   auto session = run(2);
   now += milliseconds{5'000};
   session->windowActive(false);
@@ -136,7 +137,37 @@ TEST_F(PlayProgressTest, TheTimerRunsWhileTheWindowIsActiveStopsWhenSolvedAndKee
   session->verifyPressed();
   EXPECT_EQ(session->solvedRecord()->bestSeconds, 2);
   session.reset();
-  EXPECT_EQ(run(2)->solvedRecord()->bestSeconds, 2);
+
+  // The next run brings the solved letters back at the time of their
+  // solve, and verifying them again records nothing new.
+  session = run(2);
+  EXPECT_EQ(session->solvedRecord()->bestSeconds, 2);
+  EXPECT_EQ(session->timerText(), "0:02");
+  now += milliseconds{30'000};
+  session->verifyPressed();
+  EXPECT_FALSE(session->timerRunning());
+  EXPECT_EQ(session->solvedRecord()->seconds, 2);
+  session.reset();
+
+  // Letters left half done take their time with them, including the time
+  // after the last letter typed, and the solve counts all of it.
+  session = run(4);
+  select(*session, 3, 6);
+  now += milliseconds{10'000};
+  session->type('k');
+  session->saveProgress();
+  now += milliseconds{43'000};
+  session->saveProgress();  // as the window closes
+  session.reset();
+  session = run(4);
+  EXPECT_EQ(at(*session, 3, 6), "K");
+  EXPECT_EQ(session->timerText(), "0:53");
+  EXPECT_TRUE(session->timerRunning());
+  now += milliseconds{4'000};
+  session->revealHexagons(session->board().hexCount());
+  session->verifyPressed();
+  ASSERT_TRUE(session->solvedRecord());
+  EXPECT_EQ(session->solvedRecord()->seconds, 57);
 }
 
 TEST_F(PlayProgressTest, KeyboardMovesClickedCluesAndClearingLettersSayWhatTheyDid) {
