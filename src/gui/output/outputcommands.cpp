@@ -102,8 +102,16 @@ void OutputCommands::printCurrentPuzzle() {
   if (!ready()) return;
   if (m_window.prompter().ShowMessage("Print current puzzle and its solution?", "vbquestion+vbyesno") != kMsgYes)
     return;
+  printDocument("the puzzle and its solution", [this](QPainter& painter, PrintTarget&) {
+    const PagePuzzle page = currentPage();
+    PrintPuzzle(painter, page, kPageLeft, kSheetTop, 0);
+    PrintPuzzle(painter, page, kPageLeft, kSinglePrintSolvedTop, 1);
+  });
+}
+
+void OutputCommands::printDocument(const QString& what, const std::function<void(QPainter&, PrintTarget&)>& draw) {
   bool declined = false;
-  std::unique_ptr<PrintTarget> pdf = pdfInsteadOfPrinter("the puzzle and its solution", declined);
+  std::unique_ptr<PrintTarget> pdf = pdfInsteadOfPrinter(what, declined);
   if (declined) return;
   PrintTarget& target = pdf ? *pdf : printer();
   QPainter* painter = target.beginDocument();
@@ -111,9 +119,7 @@ void OutputCommands::printCurrentPuzzle() {
     m_window.prompter().ShowMessage("Cannot print to " + target.printerName(), "vbok+vbcritical");
     return;
   }
-  const PagePuzzle page = currentPage();
-  PrintPuzzle(*painter, page, kPageLeft, kSheetTop, 0);
-  PrintPuzzle(*painter, page, kPageLeft, kSinglePrintSolvedTop, 1);
+  draw(*painter, target);
   target.endDocument();
 }
 
@@ -235,17 +241,9 @@ void OutputCommands::preview(int first, int last, bool booklet, const QString& t
 void OutputCommands::printClues() {
   if (!ready()) return;
   if (m_window.prompter().ShowMessage("Print current clues to printer?", "vbquestion+vbyesno") != kMsgYes) return;
-  bool declined = false;
-  std::unique_ptr<PrintTarget> pdf = pdfInsteadOfPrinter("the clues", declined);
-  if (declined) return;
-  PrintTarget& target = pdf ? *pdf : printer();
-  QPainter* painter = target.beginDocument();
-  if (!painter) {
-    m_window.prompter().ShowMessage("Cannot print to " + target.printerName(), "vbok+vbcritical");
-    return;
-  }
-  PrintClueList(*painter, currentPage(), kClueListLeft, kClueListTop, [&target] { target.newPage(); });
-  target.endDocument();
+  printDocument("the clues", [this](QPainter& painter, PrintTarget& target) {
+    PrintClueList(painter, currentPage(), kClueListLeft, kClueListTop, [&target] { target.newPage(); });
+  });
 }
 
 void OutputCommands::cluesToTextFile() {

@@ -78,6 +78,10 @@ class OutputCommands : public QObject {
   // Without a printer: asks whether to save `what` as a PDF file instead
   // and opens the file; null when there is a printer or the user declines.
   std::unique_ptr<PrintTarget> pdfInsteadOfPrinter(const QString& what, bool& declined);
+  // One document of `what` on the printer (or, without one, a PDF file the
+  // user agrees to): begun, drawn by `draw`, ended; a failure to begin is
+  // told.
+  void printDocument(const QString& what, const std::function<void(QPainter&, PrintTarget&)>& draw);
   // Asks for a PDF file name (in the folder used last) and opens it.
   std::unique_ptr<PrintTarget> choosePdfFile();
   std::string printChoicesPath() const;
