@@ -8,15 +8,12 @@
 #include <ostream>
 #include <string>
 
+#include "support/charmeasure.h"
+
 namespace combwise {
 namespace {
 
-// Every character is 10 twips wide.
-class CharMeasure : public TextMeasure {
- public:
-  double textWidth(std::string_view text) const override { return 10.0 * static_cast<double>(text.size()); }
-  double textHeight(std::string_view) const override { return 100.0; }
-};
+using testing::CharMeasure;
 
 }  // namespace
 

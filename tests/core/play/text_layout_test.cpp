@@ -5,16 +5,12 @@
 #include "core/model/puzzlestate.h"
 #include "core/play/cluepanel.h"
 #include "core/play/textmeasure.h"
+#include "support/charmeasure.h"
 
 namespace combwise {
 namespace {
 
-// Every character is 10 twips wide and lines 100 high.
-class CharMeasure : public TextMeasure {
- public:
-  double textWidth(std::string_view text) const override { return 10.0 * static_cast<double>(text.size()); }
-  double textHeight(std::string_view) const override { return 100.0; }
-};
+using testing::CharMeasure;
 
 TEST(WrapText, BreaksAtBlanksAndLineEnds) {
   const CharMeasure m;
