@@ -1,28 +1,19 @@
-// The output commands on a running window: range printing into a PDF file,
-// the single print and its question, the clue text file, the clipboard
-// pictures, and the collection tools.
+// The output commands on a running window: range printing into a PDF file
+// and the booklet, the single print and its question, the clue text file,
+// the clipboard pictures, and the collection tools.
 #include <QAbstractButton>
-#include <QAction>
-#include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPainter>
 #include <QProcess>
 #include <QTimer>
-#include <QtTest>
 #include <functional>
-#include <memory>
 
 #include "core/play/layout.h"
-#include "gui/app/mainwindow.h"
 #include "gui/output/outputcommands.h"
-#include "gui/play/boardpicture.h"
 #include "render/pageimage.h"
 #include "render/pdftarget.h"
-#include "support/fakeprompter.h"
-#include "support/gamefolder.h"
+#include "support/gamewindow.h"
 
 namespace combwise {
 
@@ -34,32 +25,42 @@ class RecordingClipboard : public ClipboardSink {
   QList<QImage> images;
 };
 
+// A PDF file that answers as a system without printers does.
+class NoPrinter : public PdfTarget {
+ public:
+  using PdfTarget::PdfTarget;
+  QString printerName() const override { return {}; }
+};
+
+// A PDF file whose end fails as on a full disk.
+class FullDisk : public PdfTarget {
+ public:
+  using PdfTarget::PdfTarget;
+  bool endDocument() override {
+    PdfTarget::endDocument();
+    return false;
+  }
+  std::string error() const override { return "Cannot write D/full.pdf: No space left on device"; }
+};
+
 class TestOutput : public QObject {
   Q_OBJECT
 
-  struct Game {
-    GameFolder folder;
-    FakePrompter prompter;
-    FakeFileChooser files;
+  // Four puzzles of size 7, the window showing the second; the printer
+  // writes "printer.pdf".
+  struct Game : testing::GameWindow<> {
     RecordingClipboard clipboard;
     std::unique_ptr<PdfTarget> printer;
-    std::unique_ptr<MainWindow> window;
     OutputCommands* output = nullptr;
 
-    // Four puzzles of size 7, the window showing the second; the printer
-    // writes "printer.pdf".
     bool start() {
-      folder.writeConfig(folder.writeCollection("four.txt", GameFolder::readymade("7").mid(0, 4)), 2);
-      window = std::make_unique<MainWindow>(folder.folder(), WindowServices{&prompter, &files});
-      window->show();
-      if (!QTest::qWaitForWindowExposed(window.get())) return false;
-      if (!QTest::qWaitFor([this] { return window->startedUp(); })) return false;
+      configure(2, "7", 4);
+      if (!GameWindow::start()) return false;
       output = window->findChild<OutputCommands*>();
       printer = std::make_unique<PdfTarget>(folder.path("printer.pdf"));
       if (output) output->setServices({printer.get(), &clipboard, {}, {}});
       return output != nullptr;
     }
-    void trigger(const QString& name) const { window->findChild<QAction*>(name)->trigger(); }
   };
 
   static QString run(const QString& program, const QStringList& args) {
@@ -69,8 +70,7 @@ class TestOutput : public QObject {
     return QString::fromUtf8(process.readAllStandardOutput());
   }
   static int pageCount(const QString& pdf) {
-    const QString info = run("pdfinfo", {pdf});
-    const auto match = QRegularExpression("Pages:\\s+(\\d+)").match(info);
+    const auto match = QRegularExpression("Pages:\\s+(\\d+)").match(run("pdfinfo", {pdf}));
     return match.hasMatch() ? match.captured(1).toInt() : 0;
   }
   static QString pdfText(const QString& pdf) { return run("pdftotext", {"-layout", pdf, "-"}); }
@@ -99,12 +99,11 @@ class TestOutput : public QObject {
     return dark;
   }
 
-  // A PDF file that answers as a system without printers does.
-  class NoPrinter : public PdfTarget {
-   public:
-    using PdfTarget::PdfTarget;
-    QString printerName() const override { return {}; }
-  };
+  // Whether ring position k of hexagon n holds a given letter.
+  static bool isGiven(const Board& board, int n, int k) {
+    const int cell = board.InsideCells(n, k);
+    return board.FreeCell(board.CellRow(cell), board.CellCol(cell)) == 1;
+  }
 
   // Runs `act` on the print range window once it is open; the window is
   // closed if `act` leaves it open.
@@ -116,75 +115,86 @@ class TestOutput : public QObject {
       if (form->isVisible()) form->close();
     });
   }
+  // Chooses a range and the layout in the print window and prints to a PDF.
+  static void printRange(QWidget& form, const QString& range, const char* layout) {
+    form.findChild<QAbstractButton*>("optRange")->click();
+    form.findChild<QLineEdit*>("Text1")->setText(range);
+    form.findChild<QAbstractButton*>(layout)->click();
+    form.findChild<QAbstractButton*>("chkPdf")->setChecked(true);
+  }
 
  private slots:
-  void rangePrintingMakesOnePageAPuzzleAndShowsThePuzzleShownBefore() {
+  // Pages go to the chosen file, one a puzzle or as a booklet previewed
+  // first; the window shows its puzzle again and remembers the choices.
+  void thePrintWindowPrintsARangeOrABookletToAPdfFile() {
     Game game;
     QVERIFY(game.start());
     const int cellWidth = game.window->layout().CellWidth;
-    const QString pdf = game.folder.path("range.pdf");
-    PdfTarget target(pdf);
-    game.output->printPuzzleRange(target, 3, 99);  // the range ends with the collection
-
-    QCOMPARE(pageCount(pdf), 2);
-    const QString printed = pdfText(pdf);
-    const QString header = "- Puz# %1:" + game.folder.path("four.txt");
-    QVERIFY2(printed.contains(header.arg(3)) && printed.contains(header.arg(4)) && !printed.contains("Puz# 2:"),
-             qPrintable(printed));
-    QCOMPARE(game.prompter.messages.last().prompt, QString("2 puzzles printed"));
-    QCOMPARE(game.prompter.messages.last().style, QString("vbinformation+vbok"));
-    QCOMPARE(game.window->puzzle().PuzzleNumber, 2);
-    QCOMPARE(game.window->layout().CellWidth, cellWidth);
-  }
-
-  void aFileThatCannotBeWrittenInFullSaysWhyInsteadOfCountingPages() {
-    // Draws as a file would, then fails at the end as on a full disk.
-    class FullDisk : public PrintTarget {
-     public:
-      QString printerName() const override { return "full.pdf"; }
-      QString choosePrinter(QWidget*) override { return {}; }
-      QPainter* beginDocument() override {
-        m_painter = std::make_unique<QPainter>(&m_page);
-        return m_painter.get();
-      }
-      bool newPage() override { return true; }
-      bool endDocument() override {
-        m_painter.reset();
-        return false;
-      }
-      std::string error() const override { return "Cannot write D/full.pdf: No space left on device"; }
-
-     private:
-      QImage m_page{200, 300, QImage::Format_RGB32};
-      std::unique_ptr<QPainter> m_painter;
-    };
-    Game game;
-    QVERIFY(game.start());
-    FullDisk target;
-    game.output->printPuzzleRange(target, 1, 2);
-    QCOMPARE(game.prompter.messages.last().prompt, QString("Cannot write D/full.pdf: No space left on device"));
-    QCOMPARE(game.prompter.messages.last().style, QString("vbok+vbcritical"));
-    QCOMPARE(game.window->puzzle().PuzzleNumber, 2);
-  }
-
-  void thePrintWindowsRangeCanGoToAPdfFile() {
-    Game game;
-    QVERIFY(game.start());
     const QString pdf = game.folder.path("chosen.pdf");
     game.files.paths.enqueue(pdf);
     QString shown;
     onPrintWindow([&shown](QWidget& form) {
       shown = form.objectName();
-      form.findChild<QAbstractButton*>("optRange")->click();
-      form.findChild<QLineEdit*>("Text1")->setText("2-3");
-      form.findChild<QAbstractButton*>("chkPdf")->setChecked(true);
+      printRange(form, "3-4", "optPages");
       form.findChild<QAbstractButton*>("cmdOK")->click();
     });
     game.trigger("mnuprint");
     QCOMPARE(shown, QString("PrntForm"));
     QCOMPARE(pageCount(pdf), 2);
+    const QString printed = pdfText(pdf);
+    const QString header = "- Puz# %1:" + game.folder.path("ten.txt");
+    QVERIFY2(printed.contains(header.arg(3)) && printed.contains(header.arg(4)) && !printed.contains("Puz# 2:"),
+             qPrintable(printed));
     QVERIFY(!QFile::exists(game.folder.path("printer.pdf")));
     QCOMPARE(game.prompter.messages.last().prompt, QString("2 puzzles printed"));
+    QCOMPARE(game.prompter.messages.last().style, QString("vbinformation+vbok"));
+    QCOMPARE(game.puzzle().PuzzleNumber, 2);
+    QCOMPARE(game.window->layout().CellWidth, cellWidth);
+
+    const QString previewed = game.folder.path("preview.pdf");
+    game.output->setServices({game.printer.get(), &game.clipboard, {}, [&](const auto& draw) {
+                                PdfTarget preview(previewed);
+                                draw(preview);
+                              }});
+    QVERIFY(QDir().mkpath(game.folder.path("out")));
+    const QString booklet = game.folder.path("out/booklet.pdf");
+    game.files.paths.enqueue(booklet);
+    onPrintWindow([](QWidget& form) {
+      printRange(form, "1-4", "optBooklet");
+      form.findChild<QLineEdit*>("txtTitle")->setText("Class 4b");
+      form.findChild<QAbstractButton*>("cmdPreview")->click();
+      form.findChild<QAbstractButton*>("cmdOK")->click();
+    });
+    game.trigger("mnuprint");
+    // Four puzzles on pages of their own and one page of keys, in the
+    // preview as in the file.
+    QCOMPARE(pageCount(previewed), 5);
+    QCOMPARE(pageCount(booklet), 5);
+    const QString text = pdfText(booklet);
+    QVERIFY2(text.contains("Class 4b") && text.contains("Puzzle 4") && text.contains("Answers") &&
+                 text.contains("Page 5 of 5"),
+             qPrintable(text));
+    QCOMPARE(game.puzzle().PuzzleNumber, 2);
+
+    // Opened again, the window offers the same choices and the PDF folder.
+    bool remembered = false;
+    onPrintWindow([&](QWidget& form) {
+      remembered = form.findChild<QAbstractButton*>("chkPdf")->isChecked() &&
+                   form.findChild<QAbstractButton*>("optBooklet")->isChecked() &&
+                   form.findChild<QLineEdit*>("txtTitle")->text() == "Class 4b";
+      form.findChild<QAbstractButton*>("cmdOK")->click();
+    });
+    game.trigger("mnuprint");
+    QVERIFY(remembered);
+    QCOMPARE(QDir(game.files.requests.last().defaultDir).canonicalPath(),
+             QDir(game.folder.path("out")).canonicalPath());
+
+    // A file that cannot be written in full says why instead of counting pages.
+    FullDisk full(game.folder.path("full.pdf"));
+    game.output->printPuzzleRange(full, 1, 2);
+    QCOMPARE(game.prompter.messages.last().prompt, QString("Cannot write D/full.pdf: No space left on device"));
+    QCOMPARE(game.prompter.messages.last().style, QString("vbok+vbcritical"));
+    QCOMPARE(game.puzzle().PuzzleNumber, 2);
   }
 
   void withoutAPrinterThePrintCommandsSaySoAndOfferAPdfFile() {
@@ -194,16 +204,14 @@ class TestOutput : public QObject {
     game.output->setServices({&none, &game.clipboard, {}, {}});
     const QString single = game.folder.path("single.pdf");
     game.files.paths.enqueue(single);
-    game.prompter.answers.enqueue(kMsgYes);
-    game.prompter.answers.enqueue(kMsgYes);
+    game.prompter.answers << kMsgYes << kMsgYes;
     game.trigger("mnuprintpuzzle");
     QCOMPARE(game.prompter.messages.last().prompt,
              QString("No printer is installed.\r\nSave the puzzle and its solution as a PDF file instead?"));
     QCOMPARE(pageCount(single), 1);
     QVERIFY(pdfText(single).contains("- Puz# 2:"));
 
-    game.prompter.answers.enqueue(kMsgYes);
-    game.prompter.answers.enqueue(kMsgNo);
+    game.prompter.answers << kMsgYes << kMsgNo;
     game.trigger("mnuprintclues");
     QCOMPARE(game.prompter.messages.last().prompt,
              QString("No printer is installed.\r\nSave the clues as a PDF file instead?"));
@@ -227,51 +235,6 @@ class TestOutput : public QObject {
     QVERIFY(!QFile::exists(game.folder.path("never.pdf")));
   }
 
-  void theBookletIsChosenInThePrintWindowPreviewedAndRemembered() {
-    Game game;
-    QVERIFY(game.start());
-    const QString previewed = game.folder.path("preview.pdf");
-    game.output->setServices({game.printer.get(), &game.clipboard, {}, [&](const auto& draw) {
-                                PdfTarget preview(previewed);
-                                draw(preview);
-                              }});
-    QVERIFY(QDir().mkpath(game.folder.path("out")));
-    const QString booklet = game.folder.path("out/booklet.pdf");
-    game.files.paths.enqueue(booklet);
-    onPrintWindow([](QWidget& form) {
-      form.findChild<QAbstractButton*>("optRange")->click();
-      form.findChild<QLineEdit*>("Text1")->setText("1-4");
-      form.findChild<QAbstractButton*>("optBooklet")->click();
-      form.findChild<QLineEdit*>("txtTitle")->setText("Class 4b");
-      form.findChild<QAbstractButton*>("chkPdf")->setChecked(true);
-      form.findChild<QAbstractButton*>("cmdPreview")->click();
-      form.findChild<QAbstractButton*>("cmdOK")->click();
-    });
-    game.trigger("mnuprint");
-    // Four puzzles on pages of their own and one page of keys, in the
-    // preview as in the file.
-    QCOMPARE(pageCount(previewed), 5);
-    QCOMPARE(pageCount(booklet), 5);
-    const QString text = pdfText(booklet);
-    QVERIFY2(text.contains("Class 4b") && text.contains("Puzzle 4") && text.contains("Answers") &&
-                 text.contains("Page 5 of 5"),
-             qPrintable(text));
-    QCOMPARE(game.window->puzzle().PuzzleNumber, 2);  // shown again after the pages
-
-    // Opened again, the window offers the same choices and the PDF folder.
-    bool remembered = false;
-    onPrintWindow([&](QWidget& form) {
-      remembered = form.findChild<QAbstractButton*>("chkPdf")->isChecked() &&
-                   form.findChild<QAbstractButton*>("optBooklet")->isChecked() &&
-                   form.findChild<QLineEdit*>("txtTitle")->text() == "Class 4b";
-      form.findChild<QAbstractButton*>("cmdOK")->click();
-    });
-    game.trigger("mnuprint");
-    QVERIFY(remembered);
-    QCOMPARE(QDir(game.files.requests.last().defaultDir).canonicalPath(),
-             QDir(game.folder.path("out")).canonicalPath());
-  }
-
   void theSinglePrintAsksFirstAndPrintsTheSheetWithItsLettersOnly() {
     Game game;
     QVERIFY(game.start());
@@ -287,33 +250,29 @@ class TestOutput : public QObject {
     const QString printed = pdfText(pdf);
     QVERIFY(printed.contains("- Puz# 2:"));
     // The sheet shows the given letters; the solved board below shows them all.
-    const PuzzleState& puzzle = game.window->puzzle();
     int shownLetters = 0;
     for (const QString& line : printed.split('\n'))
       if (!line.contains("Puz#"))  // the header names the collection's path
-        for (const QChar c : line) shownLetters += c.isUpper() ? 1 : 0;
-    int freeLetters = 0;
+        shownLetters += int(std::count_if(line.begin(), line.end(), [](QChar c) { return c.isUpper(); }));
     const Board& board = game.window->board();
+    int givenLetters = 0;
     for (int n = 1; n <= board.hexCount(); ++n)
-      for (int k = 1; k <= 6; ++k) {
-        const int cell = board.InsideCells(n, k);
-        freeLetters += board.FreeCell(board.CellRow(cell), board.CellCol(cell));
-      }
-    QVERIFY(puzzle.PuzzleSize == 7 && freeLetters < 42);
-    QVERIFY2(shownLetters == freeLetters + 42, qPrintable(printed));
+      for (int k = 1; k <= 6; ++k) givenLetters += isGiven(board, n, k) ? 1 : 0;
+    QVERIFY(board.hexCount() == 7 && givenLetters < 42);
+    QVERIFY2(shownLetters == givenLetters + 42, qPrintable(printed));
   }
 
   void cluesGoToATextFileByteForByteAndNeverOverAnInput() {
     Game game;
     QVERIFY(game.start());
-    const PuzzleState& puzzle = game.window->puzzle();
+    const PuzzleState& puzzle = game.puzzle();
     const QString listing = game.folder.path("clues");
     game.files.paths.enqueue(listing);
     game.trigger("mnucluesfile");
     QCOMPARE(game.files.requests.last().mode, QString("SAVE"));
 
     QByteArray expected = " Combwise - hexagonal crosswords (word letters can be in any order)\r\n Puz# 2: " +
-                          game.folder.path("four.txt").toUtf8() + "\r\n\r\n INSIDE CLUES:\r\n";
+                          game.folder.path("ten.txt").toUtf8() + "\r\n\r\n INSIDE CLUES:\r\n";
     for (int hex = 1; hex <= 7; ++hex)
       expected += QString(" 0%1. ").arg(hex).toUtf8() + puzzle.ClueTexts[2 * hex].c_str() + "\r\n";
     expected += "\r\n OUTSIDE CLUES:\r\n";
@@ -336,7 +295,7 @@ class TestOutput : public QObject {
 
     // The open collection is never replaced by its listing.
     game.prompter.confirmAnswer = true;
-    const QString collection = game.folder.path("four.txt");
+    const QString collection = game.folder.path("ten.txt");
     const qint64 size = QFileInfo(collection).size();
     game.files.paths.enqueue(collection);
     game.trigger("mnucluesfile");
@@ -359,35 +318,23 @@ class TestOutput : public QObject {
     QPoint origin;
     QCOMPARE(puzzle, pageImage(game.output->currentPage(), LetterMode::Sheet, &origin));
     QCOMPARE(solution.size(), puzzle.size());
-    const auto drawnAt = [&puzzle](int x0, int y0, int x1, int y1) {
-      for (int x = x0; x <= x1; ++x)
-        for (int y = y0; y <= y1; ++y)
-          if (puzzle.pixel(x, y) != qRgb(255, 255, 255)) return true;
-      return false;
-    };
-    const int right = puzzle.width() - 1;
-    const int bottom = puzzle.height() - 1;
-    constexpr int m = kImageMargin;
-    QVERIFY(!drawnAt(0, 0, right, m - 1) && !drawnAt(0, bottom - m + 1, right, bottom));
-    QVERIFY(!drawnAt(0, 0, m - 1, bottom) && !drawnAt(right - m + 1, 0, right, bottom));
-    QVERIFY(drawnAt(m, m, m, bottom - m) && drawnAt(right - m, m, right - m, bottom - m));
-    QVERIFY(drawnAt(m, m, right - m, m) && drawnAt(m, bottom - m, right - m, bottom - m));
+    QRect drawn;
+    for (int y = 0; y < puzzle.height(); ++y)
+      for (int x = 0; x < puzzle.width(); ++x)
+        if (puzzle.pixel(x, y) != qRgb(255, 255, 255)) drawn |= QRect(x, y, 1, 1);
+    QCOMPARE(drawn, puzzle.rect().marginsRemoved(QMargins(kImageMargin, kImageMargin, kImageMargin, kImageMargin)));
     // A size-7 board with its header fits a small picture.
     QVERIFY2(puzzle.width() < 900 && puzzle.height() < 600,
              qPrintable(QString("%1 x %2").arg(puzzle.width()).arg(puzzle.height())));
 
     // The middle letters of cells to fill: white on the puzzle, drawn on the solution.
-    const Board& board = window.board();
     int checked = 0;
-    for (int n = 1; n <= board.hexCount(); ++n)
+    for (int n = 1; n <= window.board().hexCount(); ++n)
       for (int k : {2, 5}) {
-        const int cell = board.InsideCells(n, k);
-        const bool given = board.FreeCell(board.CellRow(cell), board.CellCol(cell)) == 1;
-        const int onPuzzle = darkPixelsInLetter(puzzle, origin, window, n, k);
-        const int onSolution = darkPixelsInLetter(solution, origin, window, n, k);
-        QCOMPARE(onPuzzle > 0, given);
-        QVERIFY(onSolution > 0);  // nothing is cut off
-        if (!given) ++checked;
+        const bool given = isGiven(window.board(), n, k);
+        QCOMPARE(darkPixelsInLetter(puzzle, origin, window, n, k) > 0, given);
+        QVERIFY(darkPixelsInLetter(solution, origin, window, n, k) > 0);  // nothing is cut off
+        checked += given ? 0 : 1;
       }
     QVERIFY(checked > 0);
     QCOMPARE(screenBoard(window), screenBefore);
@@ -443,7 +390,7 @@ class TestOutput : public QObject {
     const QList<QByteArray> puzzles = made.readAll().split('\n');
     QCOMPARE(puzzles.size(), 3);  // two lines and the end
     QVERIFY(puzzles[0].startsWith("17;"));
-    QCOMPARE(game.window->puzzle().PuzzleSize, 7);  // the puzzle shown stays
+    QCOMPARE(game.puzzle().PuzzleSize, 7);  // the puzzle shown stays
     // The batch's size and dictionary are the ones in use afterwards.
     QCOMPARE(game.window->findChild<QLabel*>("lblsize")->text(), QString("17"));
     QCOMPARE(QString::fromStdString(game.window->settings().dictionaryPath), game.folder.path("english3.txt"));

@@ -1,34 +1,23 @@
 // The game window as a player meets it: where the keys go after the pointer
-// or a menu moved away, how the buttons look after a box, the File menu's
-// separators, and the comforts of play (kept letters, the timer and solved
-// record, linked board and clues, keyboard moves, redo, clearing letters and
-// the two play options), each driven through the window's own controls.
-#include <QAction>
+// or a menu moved away, how Verify looks after a box, and the comforts of
+// play (keyboard moves and undo, the timer and solved record, linked board
+// and clues, kept letters, the play options), each driven through the
+// window's own controls.
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
 #include <QMenu>
-#include <QMenuBar>
 #include <QTimer>
-#include <QtTest>
-#include <memory>
 
 #include "core/files/extraoptions.h"
-#include "core/files/progressfile.h"
-#include "gui/app/mainwindow.h"
 #include "gui/app/screenshot.h"
-#include "gui/play/boardpicture.h"
 #include "gui/play/cluepicture.h"
-#include "gui/ui/boxcontrol.h"
 #include "gui/ui/form2.h"
 #include "render/boardpainter.h"
-#include "support/fakeprompter.h"
-#include "support/gamefolder.h"
+#include "support/gamewindow.h"
 
 namespace combwise {
-
-using testing::GameFolder;
 
 namespace {
 
@@ -44,47 +33,15 @@ class ModalPrompter : public FakePrompter {
   }
 };
 
+// A window on ten puzzles of `size`, showing puzzle `number`.
+struct Game : testing::GameWindow<ModalPrompter> {
+  explicit Game(int number = 1, const QString& size = "7") { configure(number, size); }
+};
+
 }  // namespace
 
 class TestPlay : public QObject {
   Q_OBJECT
-
-  struct Game {
-    GameFolder folder;
-    ModalPrompter prompter;
-    FakeFileChooser files;
-    std::unique_ptr<MainWindow> window;
-
-    explicit Game(int number = 1, const QString& size = "7") {
-      folder.writeConfig(folder.writeCollection("ten.txt", GameFolder::readymade(size).mid(0, 10)), number);
-    }
-    bool start() {
-      window = std::make_unique<MainWindow>(folder.folder(), WindowServices{&prompter, &files});
-      window->show();
-      if (!QTest::qWaitForWindowActive(window.get())) return false;
-      return QTest::qWaitFor([this] { return window->startedUp(); });
-    }
-    template <typename T>
-    T* find(const QString& name) const {
-      return window->findChild<T*>(name);
-    }
-    QAction* action(const QString& name) const { return find<QAction>(name); }
-    const PuzzleState& puzzle() const { return window->puzzle(); }
-    QString entry(int row, int col) const { return QString::fromStdString(puzzle().Entries.at(row, col)); }
-    QPoint cellPoint(int row, int col) const {
-      const BoardLayout& l = window->layout();
-      return {qRound((l.cellX(row, col) + l.CellWidth / 2.0) / l.TwipsPerPixelX),
-              qRound((l.cellY(row, col) + l.CellHeight / 2.0) / l.TwipsPerPixelY)};
-    }
-    void select(int row, int col) const { QTest::mouseMove(window->boardPicture(), cellPoint(row, col)); }
-    // A key as the player types it: to whichever widget has the keyboard.
-    void type(char key, Qt::KeyboardModifiers modifiers = {}) const {
-      QTest::keyClick(window->windowHandle(), key, modifiers);
-    }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
-      QTest::keyClick(window->windowHandle(), key, modifiers);
-    }
-  };
 
  private slots:
   void keysAfterThePointerLeftTheBoardSidewaysWriteNothing() {
@@ -115,51 +72,36 @@ class TestPlay : public QObject {
     QVERIFY(game.files.requests.isEmpty());
   }
 
-  void verifyIsDrawnUpAfterTheAllDoneBox() {
-    Game game(2);
-    QVERIFY(game.start());
-    revealHexagons(*game.window, game.window->board().hexCount());
-    BoxControl* verify = game.find<BoxControl>("cmdverify");
-    QTest::mousePress(verify, Qt::LeftButton);
-    QCOMPARE(game.prompter.messages.last().prompt, QString("All done !"));
-    QVERIFY(!verify->isDown());
-    QTest::mouseRelease(verify, Qt::LeftButton);  // the test's mouse lets go too
-  }
-
-  void fileMenuShowsOneSeparatorBeforeHelpOnlyWithRecentFiles() {
+  // The board's keys and the Undo button reach the session: letters, Escape,
+  // arrows, Tab and Shift+Tab with the pointer away, undo and redo, clearing
+  // the player's letters as one undoable step, and the reset question.
+  void keysOnTheBoardTypeMoveAndUndo() {
     Game game;
     QVERIFY(game.start());
-    auto separatorsBeforeHelp = [&] {
-      // Visible separators between the print entry and Help.
-      int count = 0;
-      bool counting = false;
-      for (QAction* a : game.window->fileMenu()->actions()) {
-        if (a->objectName() == "mnuprint") counting = true;
-        if (a->objectName() == "mnuhelp") break;
-        if (counting && a->isSeparator() && a->isVisible()) ++count;
-      }
-      return count;
-    };
-    QCOMPARE(separatorsBeforeHelp(), 0);
-    game.files.paths.enqueue(game.folder.path("ten.txt"));
-    game.action("mnuloadpuzfile")->trigger();
-    QVERIFY(game.action("mnuoldfiles0")->isVisible());
-    QCOMPARE(separatorsBeforeHelp(), 1);
-  }
+    BoardPicture* picture = game.window->boardPicture();
+    game.select(3, 6);
+    QCOMPARE(game.status(), QString("Hex = 4"));
+    QVERIFY(picture->marker()->isVisible());
+    game.type('k');
+    QCOMPARE(game.entry(3, 6), QString("K"));
+    game.press(Qt::Key_Escape);
+    QCOMPARE(game.entry(3, 6), QString());
+    game.click("cmdundo");
+    QCOMPARE(game.entry(3, 6), QString("K"));
+    const QPoint marker = picture->marker()->pos();
+    game.press(Qt::Key_Right);
+    QCOMPARE(game.puzzle().SelCol, 7);
+    QVERIFY(picture->marker()->pos() != marker);
 
-  void tabMovesBetweenHexagonsWithThePointerAwayAndTheUndoKeysWalkBothWays() {
-    Game game;
-    QVERIFY(game.start());
     QTest::mouseMove(game.find<QWidget>("picouter"), QPoint(30, 30));
     game.press(Qt::Key_Tab);
-    QCOMPARE(game.window->statusText(), QString("Hex = 1"));
+    QCOMPARE(game.status(), QString("Hex = 1"));
     const GridPos cell{game.puzzle().SelRow, game.puzzle().SelCol};
-    QVERIFY(cell.row != 0);
-    QVERIFY(game.window->boardPicture()->marker()->isVisible());
+    QVERIFY(picture->marker()->isVisible());
     game.type('q');
     QCOMPARE(game.entry(cell.row, cell.col), QString("Q"));
     game.press(Qt::Key_Backtab, Qt::ShiftModifier);
-    QCOMPARE(game.window->statusText(), QString("Hex = 7"));
+    QCOMPARE(game.status(), QString("Hex = 7"));
 
     game.press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(game.entry(cell.row, cell.col), QString());
@@ -169,10 +111,45 @@ class TestPlay : public QObject {
     game.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(game.entry(cell.row, cell.col), QString("Q"));
 
-    game.action("mnuclearletters")->trigger();
+    game.trigger("mnuclearletters");
     QCOMPARE(game.entry(cell.row, cell.col), QString());
+    QCOMPARE(game.entry(3, 6), QString());
     game.press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(game.entry(cell.row, cell.col), QString("Q"));
+    QCOMPARE(game.entry(3, 6), QString("K"));
+
+    // A right click on Undo asks through the window's message box.
+    game.prompter.answers.enqueue(kMsgNo);
+    game.click("cmdundo", Qt::RightButton);
+    QCOMPARE(game.prompter.messages.last().prompt, QString("Reset puzzle?"));
+    QCOMPARE(game.prompter.messages.last().style, QString("vbquestion+vbyesno"));
+    QCOMPARE(game.entry(3, 6), QString("K"));
+  }
+
+  // Verify is drawn up again after the "All done !" box, the timer pauses
+  // while the window is minimised, and the solved puzzle shows its mark.
+  void theTimerPausesWhileMinimisedAndVerifyEndsASolvedPuzzleWithItsMark() {
+    Game game(2);
+    QVERIFY(game.start());
+    QVERIFY(game.find<QLabel>("lbltimer")->text().startsWith("0:0"));
+    QVERIFY(game.window->session().timerRunning());
+    game.window->showMinimized();
+    QTRY_VERIFY(!game.window->session().timerRunning());
+    game.window->showNormal();
+    game.window->activateWindow();
+    QTRY_VERIFY(game.window->session().timerRunning());
+
+    revealHexagons(*game.window, game.window->board().hexCount());
+    auto* verify = game.find<BoxControl>("cmdverify");
+    QTest::mousePress(verify, Qt::LeftButton);
+    QCOMPARE(game.prompter.messages.last().prompt, QString("All done !"));
+    QVERIFY(!verify->isDown());
+    QTest::mouseRelease(verify, Qt::LeftButton);  // the test's mouse lets go too
+    const QString counter = game.find<QLabel>("lblcounter")->text();
+    QVERIFY2(counter.startsWith(QString::fromUtf8("p# 2 of 10  \u2713 0:0")), qPrintable(counter));
+    QVERIFY(!game.window->session().timerRunning());
+    game.trigger("mnunext");
+    QCOMPARE(game.find<QLabel>("lblcounter")->text(), QString("p# 3 of 10"));
   }
 
   void theSelectedHexagonAndItsCluesAreHighlightedAndShown() {
@@ -210,32 +187,9 @@ class TestPlay : public QObject {
     const ClueSpan third = *cluesOfHexagon(clues->panel(), 3).inside;
     clues->move(0, 0);
     QTest::mouseClick(clues, Qt::LeftButton, {}, QPoint(40, qRound((third.top + third.bottom) / 2 / perPixel)));
-    QCOMPARE(game.window->statusText(), QString("Hex = 3"));
+    QCOMPARE(game.status(), QString("Hex = 3"));
     QCOMPARE(game.window->board().HexAt(game.puzzle().SelRow, game.puzzle().SelCol), 3);
-    QVERIFY(game.entry(game.puzzle().SelRow, game.puzzle().SelCol).isEmpty());
     QCOMPARE(clues->highlightedHexagon(), 3);
-  }
-
-  void theTimerPausesWhileMinimisedAndASolvedPuzzleShowsItsMark() {
-    Game game(2);
-    QVERIFY(game.start());
-    auto* timer = game.find<QLabel>("lbltimer");
-    QVERIFY(timer->text().startsWith("0:0"));
-    QVERIFY(game.window->session().timerRunning());
-    game.window->showMinimized();
-    QTRY_VERIFY(!game.window->session().timerRunning());
-    game.window->showNormal();
-    game.window->activateWindow();
-    QTRY_VERIFY(game.window->session().timerRunning());
-    revealHexagons(*game.window, game.window->board().hexCount());
-    BoxControl* verify = game.find<BoxControl>("cmdverify");
-    QTest::mousePress(verify, Qt::LeftButton);
-    QTest::mouseRelease(verify, Qt::LeftButton);
-    const QString counter = game.find<QLabel>("lblcounter")->text();
-    QVERIFY2(counter.startsWith(QString::fromUtf8("p# 2 of 10  \u2713 0:0")), qPrintable(counter));
-    QVERIFY(!game.window->session().timerRunning());
-    game.action("mnunext")->trigger();
-    QCOMPARE(game.find<QLabel>("lblcounter")->text(), QString("p# 3 of 10"));
   }
 
   void lettersComeBackAfterTheWindowIsClosedByItsFrame() {
@@ -256,7 +210,7 @@ class TestPlay : public QObject {
     QVERIFY(config.open(QIODevice::ReadOnly));
     const QByteArray settings = config.readAll();
     config.close();
-    game.action("mnuoptions")->trigger();
+    game.trigger("mnuoptions");
     auto* options = game.window->findChild<Form2*>();
     QVERIFY(options);
     auto* clean = options->findChild<QCheckBox*>("chkCleanBoard");
@@ -272,7 +226,7 @@ class TestPlay : public QObject {
 
     game.select(3, 6);
     game.type('r');
-    game.action("mnunext")->trigger();
+    game.trigger("mnunext");
     QCOMPARE(game.entry(3, 6), QString());
   }
 };

@@ -47,13 +47,13 @@ class GameFolder {
     return path(name);
   }
 
-  // A configuration naming a collection and puzzle number.
+  // A whole configuration naming a collection and puzzle number.
   void writeConfig(const QString& collection, int number) const {
     QFile file(path("combwise.cfg"));
     if (!file.open(QIODevice::WriteOnly)) return;
     QTextStream out(&file);
     out << "xp.col\r\n" << collection << "\r\n\r\nArial\r\n";
-    out << " " << number << "  10  0  255  16777215  32768  15790320  2 \r\n";
+    out << " " << number << "  10  0  255  16777215  32768  15790320  2  0 \r\n";
     for (int i = 0; i < 5; ++i) out << "\r\n";
   }
 
