@@ -197,9 +197,20 @@ class TestOutput : public QObject {
     QCOMPARE(game.puzzle().PuzzleNumber, 2);
   }
 
-  void withoutAPrinterThePrintCommandsSaySoAndOfferAPdfFile() {
+  // The single print asks first and prints the sheet with its given letters
+  // over the solved board; without a printer each print command says so and
+  // offers a PDF file.
+  void theSinglePrintAsksFirstAndWithoutAPrinterThePrintCommandsOfferAPdfFile() {
     Game game;
     QVERIFY(game.start());
+    game.prompter.answers << kMsgNo;
+    game.trigger("mnuprintpuzzle");
+    QCOMPARE(game.prompter.messages.last().prompt, QString("Print current puzzle and its solution?"));
+    QVERIFY(!QFile::exists(game.folder.path("printer.pdf")));
+    game.prompter.answers << kMsgYes;
+    game.trigger("mnuprintpuzzle");
+    QCOMPARE(pageCount(game.folder.path("printer.pdf")), 1);
+
     NoPrinter none(game.folder.path("never.pdf"));
     game.output->setServices({&none, &game.clipboard, {}, {}});
     const QString single = game.folder.path("single.pdf");
@@ -209,7 +220,18 @@ class TestOutput : public QObject {
     QCOMPARE(game.prompter.messages.last().prompt,
              QString("No printer is installed.\r\nSave the puzzle and its solution as a PDF file instead?"));
     QCOMPARE(pageCount(single), 1);
-    QVERIFY(pdfText(single).contains("- Puz# 2:"));
+    const QString printed = pdfText(single);
+    QVERIFY(printed.contains("- Puz# 2:"));
+    int shownLetters = 0;
+    for (const QString& line : printed.split('\n'))
+      if (!line.contains("Puz#"))  // the header names the collection's path
+        shownLetters += int(std::count_if(line.begin(), line.end(), [](QChar c) { return c.isUpper(); }));
+    const Board& board = game.window->board();
+    int givenLetters = 0;
+    for (int n = 1; n <= board.hexCount(); ++n)
+      for (int k = 1; k <= 6; ++k) givenLetters += isGiven(board, n, k) ? 1 : 0;
+    QVERIFY(board.hexCount() == 7 && givenLetters < 42);
+    QVERIFY2(shownLetters == givenLetters + 42, qPrintable(printed));
 
     game.prompter.answers << kMsgYes << kMsgNo;
     game.trigger("mnuprintclues");
@@ -233,33 +255,6 @@ class TestOutput : public QObject {
     QCOMPARE(pageCount(range), 1);
     QCOMPARE(game.prompter.messages.last().prompt, QString("1 puzzles printed"));
     QVERIFY(!QFile::exists(game.folder.path("never.pdf")));
-  }
-
-  void theSinglePrintAsksFirstAndPrintsTheSheetWithItsLettersOnly() {
-    Game game;
-    QVERIFY(game.start());
-    game.prompter.answers.enqueue(kMsgNo);
-    game.trigger("mnuprintpuzzle");
-    QCOMPARE(game.prompter.messages.last().prompt, QString("Print current puzzle and its solution?"));
-    QVERIFY(!QFile::exists(game.folder.path("printer.pdf")));
-
-    game.prompter.answers.enqueue(kMsgYes);
-    game.trigger("mnuprintpuzzle");
-    const QString pdf = game.folder.path("printer.pdf");
-    QCOMPARE(pageCount(pdf), 1);
-    const QString printed = pdfText(pdf);
-    QVERIFY(printed.contains("- Puz# 2:"));
-    // The sheet shows the given letters; the solved board below shows them all.
-    int shownLetters = 0;
-    for (const QString& line : printed.split('\n'))
-      if (!line.contains("Puz#"))  // the header names the collection's path
-        shownLetters += int(std::count_if(line.begin(), line.end(), [](QChar c) { return c.isUpper(); }));
-    const Board& board = game.window->board();
-    int givenLetters = 0;
-    for (int n = 1; n <= board.hexCount(); ++n)
-      for (int k = 1; k <= 6; ++k) givenLetters += isGiven(board, n, k) ? 1 : 0;
-    QVERIFY(board.hexCount() == 7 && givenLetters < 42);
-    QVERIFY2(shownLetters == givenLetters + 42, qPrintable(printed));
   }
 
   void cluesGoToATextFileByteForByteAndNeverOverAnInput() {
