@@ -10,6 +10,7 @@
 #include "gui/ui/boxcontrol.h"
 #include "gui/ui/dialogservices.h"
 #include "gui/ui/msgform.h"
+#include "support/modal.h"
 
 namespace combwise {
 
@@ -117,14 +118,10 @@ class TestMsgForm : public QObject {
 
     // The plain Yes/No question keeps the file when Enter is pressed.
     QString title;
-    QTimer::singleShot(0, [&title] {
-      if (!QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; })) return;
-      QWidget* modal = QApplication::activeModalWidget();
-      if (auto* question = qobject_cast<QMessageBox*>(modal)) {
+    testing::onModal([&title](QWidget& modal) {
+      if (auto* question = qobject_cast<QMessageBox*>(&modal)) {
         title = question->windowTitle();
         QTest::keyClick(question, Qt::Key_Return);
-      } else if (modal) {
-        modal->close();
       }
     });
     QVERIFY(!prompter.confirm("Overwrite clues.txt?"));

@@ -14,6 +14,7 @@
 #include "render/pageimage.h"
 #include "render/pdftarget.h"
 #include "support/gamewindow.h"
+#include "support/modal.h"
 
 namespace combwise {
 
@@ -105,14 +106,10 @@ class TestOutput : public QObject {
     return board.FreeCell(board.CellRow(cell), board.CellCol(cell)) == 1;
   }
 
-  // Runs `act` on the print range window once it is open; the window is
-  // closed if `act` leaves it open.
+  // Runs `act` on the print range window once it is open.
   static void onPrintWindow(const std::function<void(QWidget&)>& act) {
-    QTimer::singleShot(0, [act] {
-      QWidget* form = QApplication::activeModalWidget();
-      if (!form) return;
-      if (form->objectName() == "PrntForm") act(*form);
-      if (form->isVisible()) form->close();
+    testing::onModal([act](QWidget& form) {
+      if (form.objectName() == "PrntForm") act(form);
     });
   }
   // Chooses a range and the layout in the print window and prints to a PDF.
