@@ -1,14 +1,11 @@
 // The owner-drawn button's press and click, the file-name dialog's cancel
 // and choice, driven without a human, and the help window.
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QtTest>
 #include <functional>
 #include <optional>
