@@ -146,6 +146,10 @@ bool sharesRoot(std::string_view word, std::string_view other) {
   // first two begin its word: most pairs end here.
   if (word.size() < 3 || other.size() < 3 || word.substr(0, 2) != other.substr(0, 2)) return false;
   if (word == other) return true;
+  // A longer word that begins with the whole answer is nearly always built
+  // on it: "weight" for weigh, "laughter", "kingdom", "poetry".
+  if (word.size() >= 4 && other.size() > word.size() && other.starts_with(word) && other.substr(word.size()) != "e")
+    return true;
   const std::vector<std::string> wordRoots = roots(word, true);
   const std::vector<std::string> otherRoots = roots(other, true);
   for (const std::string& root : wordRoots) {

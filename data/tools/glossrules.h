@@ -42,7 +42,9 @@ std::vector<std::string> lowerWords(std::string_view text);
 // letters counts only when it is the whole three-letter word or both words
 // have six letters or more, and a root that is a word of its own counts
 // only when no bare final "e" had to go to reach it, so "car" and "care",
-// "plane" and "plan" stay apart.
+// "plane" and "plan" stay apart. A word of four letters or more is also
+// related to any longer word that begins with it, but for a bare final
+// "e": "weigh" and "weight", "king" and "kingdom", not "plan" and "plane".
 bool sharesRoot(std::string_view word, std::string_view other);
 
 // True when `other` is `word`, or a root of it of at least four letters,

@@ -166,11 +166,13 @@ TEST(AnswerRelatives, ShareARootButNotAChanceLikeness) {
   for (const auto& [word, other] :
        {Pair{"abuser", "abuses"}, Pair{"admire", "admiration"}, Pair{"abort", "abortion"}, Pair{"advise", "advice"},
         Pair{"act", "action"}, Pair{"snowy", "snow"}, Pair{"wiper", "wipes"}, Pair{"active", "action"},
-        Pair{"decide", "decision"}, Pair{"merry", "merriment"}, Pair{"gently", "gentle"}})
+        Pair{"decide", "decision"}, Pair{"merry", "merriment"}, Pair{"gently", "gentle"}, Pair{"weigh", "weight"},
+        Pair{"laugh", "laughter"}, Pair{"king", "kingdom"}})
     EXPECT_TRUE(sharesRoot(word, other)) << word << " / " << other;
   for (const auto& [word, other] :
        {Pair{"art", "start"}, Pair{"art", "party"}, Pair{"car", "care"}, Pair{"plane", "plan"}, Pair{"cat", "catalog"},
-        Pair{"ration", "rats"}, Pair{"planet", "plant"}, Pair{"brand", "branch"}, Pair{"pen", "pencil"}})
+        Pair{"ration", "rats"}, Pair{"planet", "plant"}, Pair{"brand", "branch"}, Pair{"pen", "pencil"},
+        Pair{"plan", "plane"}})
     EXPECT_FALSE(sharesRoot(word, other)) << word << " / " << other;
 
   const auto isWord = [](std::string_view part) { return part == "paper" || part == "way" || part == "ware"; };
@@ -185,19 +187,21 @@ TEST(ConvertWords, DropsGiveawayAndCrudeSensesKeepingTheCleanOnes) {
   const std::string noun =
       "00000100 18 n 01 abuser 0 000 | someone who abuses  \n"
       "00000200 18 n 01 abuser 0 000 | a cruel and wicked person  \n"
-      "00000300 18 n 01 sand 0 000 | rub with sandpaper  \n"
+      "00000300 18 n 01 sand 0 000 | a bog of quicksand  \n"
       "00000400 18 n 01 sand 0 000 | fine grains of rock  \n"
       "00000500 18 n 01 admirer 0 000 | one who feels admiration  \n"
       "00000600 18 n 01 dolt 0 000 | a stupid despised man  \n"
       "00000700 18 n 01 paper 0 000 | a material made of cellulose pulp  \n"
       "00000800 10 n 01 derogation 0 000 | a remark that belittles  \n"
-      "00000900 18 n 01 cad 0 001 ;u 00000800 n 0000 | a man of low morals  \n";
+      "00000900 18 n 01 cad 0 001 ;u 00000800 n 0000 | a man of low morals  \n"
+      "00001000 18 n 01 quick 0 000 | the living  \n";
   const std::string index =
       "abuser n 2 0 2 0 00000100 00000200  \n"
       "admirer n 1 0 1 0 00000500  \n"
       "cad n 1 0 1 0 00000900  \n"
       "dolt n 1 0 1 0 00000600  \n"
       "paper n 1 0 1 0 00000700  \n"
+      "quick n 1 0 1 0 00001000  \n"
       "sand n 2 0 2 0 00000300 00000400  \n";
   WordNetData wordnet;
   wordnet.addPart(PartOfSpeech::Noun, index, noun);
