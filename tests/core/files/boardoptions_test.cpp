@@ -6,14 +6,6 @@
 namespace combwise {
 namespace {
 
-TEST(BoardOptions, StartupColoursStandOutFromTheHexagonFill) {
-  const Settings settings = startupSettings();
-  EXPECT_NE(settings.GivenLetterColour, settings.HexFillColour);
-  EXPECT_NE(settings.EntryColour, settings.HexFillColour);
-  EXPECT_NE(settings.OutlineColour, settings.HexFillColour);
-  EXPECT_FALSE(settings.recentSeparatorShown());
-}
-
 // The border width wraps above twenty and stops at one; the font size is held
 // between eight and thirty-two.
 TEST(BoardOptions, SampleClicksStepWithinTheirLimits) {
@@ -28,16 +20,14 @@ TEST(BoardOptions, SampleClicksStepWithinTheirLimits) {
   EXPECT_EQ(nextBoardFontSize(0, SampleClick::Left), 8);
 }
 
-// A configuration that leaves the font, size or width unset (zero, empty)
-// draws with the start-up values; an options choice lands in the right
-// settings, the scheme's button colour settled.
+// An unset font, size or width (zero, empty) draws with the start-up values.
 TEST(BoardOptions, TheLookFallsBackToTheStartupValuesAndAChoiceLandsInItsSettings) {
   Settings unset;
   unset.EntryColour = rgb(1, 2, 3);
   const BoardLook look = boardLook(unset);
-  EXPECT_EQ(look.fontName, "Arial");
-  EXPECT_EQ(look.fontSize, 10);
-  EXPECT_EQ(look.outlineWidth, 2);
+  EXPECT_EQ(look.fontName, kDefaultBoardFontName);
+  EXPECT_EQ(look.fontSize, kDefaultBoardFontSize);
+  EXPECT_EQ(look.outlineWidth, kDefaultOutlineWidth);
   EXPECT_EQ(look.entries, rgb(1, 2, 3));
 
   OptionsChoice choice;

@@ -197,15 +197,5 @@ TEST_F(CollectionFile, FoldersAndMissingFilesAreRefusedWithTheirCauseNotCountedA
   EXPECT_EQ(readPuzzle(missing, 1, board, state, {}).message, "Cannot open " + missing + ": No such file or directory");
 }
 
-TEST_F(CollectionFile, SavingAfterALastLineWithoutItsEndStartsANewLine) {
-  const std::string path = folder.file("set.txt");
-  const std::string first = puzzleLine(filledPuzzle(7, 1));
-  ASSERT_TRUE(replaceFileContent(path, first));  // no CR LF at its end
-  const PuzzleState second = filledPuzzle(10, 2);
-  ASSERT_TRUE(writePuzzle(path, WriteMode::Append, second).ok());
-  EXPECT_EQ(TempFolder::contentOf(path), first + "\r\n" + puzzleLine(second) + "\r\n");
-  EXPECT_EQ(countPuzzles(path), 2);
-}
-
 }  // namespace
 }  // namespace combwise
