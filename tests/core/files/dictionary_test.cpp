@@ -1,4 +1,5 @@
-// The dictionary pools, the anagram keys, and clue lookup by meaning number.
+// The dictionary pools, the anagram keys and their case-blind list, and clue
+// lookup by meaning number.
 #include "core/files/dictionary.h"
 
 #include <gmock/gmock.h>
@@ -10,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "core/files/sortedkeylist.h"
 #include "core/files/textfile.h"
 #include "support/tempfolder.h"
 
@@ -49,6 +51,18 @@ TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCou
   const Status missing = readDictionary(folder.file("missing.txt"), dictionary);
   EXPECT_EQ(missing.error, "Cannot open " + folder.file("missing.txt") + ": No such file or directory");
   EXPECT_EQ(readDictionary(folder.folder(), dictionary).error, "Cannot open " + folder.folder() + ": it is a folder");
+}
+
+TEST(SortedKeyList, KeepsCaseBlindOrderAndFindsTheFirstEntryWithAPrefix) {
+  SortedKeyList keys;
+  EXPECT_EQ(keys.firstWithPrefix("A"), -1);
+  for (const char* key : {"beta", "Alpha", "alphabet", "gamma", "ALPHA", "Zed"}) keys.insert(key);
+  EXPECT_THAT(keys.items(), ElementsAre("Alpha", "ALPHA", "alphabet", "beta", "gamma", "Zed"));
+  EXPECT_EQ(keys.firstWithPrefix("al"), 0);
+  EXPECT_EQ(keys.firstWithPrefix("ALPHAB"), 2);
+  EXPECT_EQ(keys.firstWithPrefix("z"), 5);
+  EXPECT_EQ(keys.firstWithPrefix("alphas"), -1);
+  EXPECT_EQ(keys.firstWithPrefix("delta"), -1);
 }
 
 TEST(MeaningsFile, TheMeaningNumberPicksTheLineAndAnythingElseGivesNoClue) {

@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "support/filesizelimit.h"
 #include "support/tempfolder.h"
 
@@ -50,7 +52,7 @@ TEST(TextFile, WritesCrLfAppendsAndReplacesWithoutLeavingATemporaryFile) {
   EXPECT_FALSE(replaceFileContent(temp.file("no/folder.txt"), "x"));
 }
 
-TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItWas) {
+TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedAppendOrReplaceLeavesTheFileAsItWas) {
   TempFolder temp;
   const std::string path = temp.write("set.txt", "one\r\ntwo");
   ASSERT_TRUE(appendLines(path, {"three"}).ok());
@@ -70,9 +72,12 @@ TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItW
     LineAppender created(fresh);
     EXPECT_TRUE(created.add("short").ok());
     EXPECT_FALSE(created.add(std::string(100, 'y')).ok());
+    // A replaced file (settings, progress, listings) keeps its old content.
+    EXPECT_FALSE(replaceFileContent(path, std::string(100, 'z')));
+    EXPECT_EQ(errno, EFBIG);
   }
   EXPECT_EQ(TempFolder::contentOf(path), before);
-  EXPECT_FALSE(std::filesystem::exists(fresh));
+  EXPECT_EQ(temp.entries(), 1);  // no new or temporary file
 
   // A run that writes nothing leaves no new file behind.
   LineAppender unused(temp.file("unused.txt"));
