@@ -94,9 +94,9 @@ TEST_F(CollectionFile, WrittenPuzzlesReadBackAndTheBoardIsRebuiltOnlyOnASizeSwit
     EXPECT_EQ(result.rebuilt, rebuilt) << n;
     EXPECT_EQ(state.PuzzleNumber, number);
     EXPECT_EQ(state.CollectionPath, path);
-    EXPECT_TRUE(state.Letters == written->Letters) << n;
-    EXPECT_EQ(state.WordSlots, written->WordSlots) << n;
-    EXPECT_EQ(state.MeaningNumbers, written->MeaningNumbers) << n;
+    EXPECT_TRUE(std::tie(state.Letters, state.WordSlots, state.MeaningNumbers) ==
+                std::tie(written->Letters, written->WordSlots, written->MeaningNumbers))
+        << n;
   }
   EXPECT_EQ(state.Entries.at(3, 6), "Q");
   EXPECT_EQ(state.SelRow, 0);
