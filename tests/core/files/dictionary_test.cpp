@@ -47,10 +47,6 @@ TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCou
   ASSERT_TRUE(readDictionary(second, dictionary).ok());  // replaces, never merges
   EXPECT_TRUE(dictionary.empty());
   EXPECT_TRUE(dictionary.SixLetterKeys.empty());
-
-  const Status missing = readDictionary(folder.file("missing.txt"), dictionary);
-  EXPECT_EQ(missing.error, "Cannot open " + folder.file("missing.txt") + ": No such file or directory");
-  EXPECT_EQ(readDictionary(folder.folder(), dictionary).error, "Cannot open " + folder.folder() + ": it is a folder");
 }
 
 TEST(SortedKeyList, KeepsCaseBlindOrderAndFindsTheFirstEntryWithAPrefix) {
