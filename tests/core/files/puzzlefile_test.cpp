@@ -187,15 +187,5 @@ TEST_F(CollectionFile, CluesComeFromTheMeaningsAndTheWordListsSkipEmptySlots) {
   EXPECT_EQ(state.WordSlots[1], "TEAR");
 }
 
-// Pipes are refused with every other reader's in the pipes test.
-TEST_F(CollectionFile, FoldersAndMissingFilesAreRefusedWithTheirCauseNotCountedAsEmpty) {
-  state.PuzzleCount = 0;
-  const auto refused = readPuzzle(folder.folder(), 1, board, state, {});
-  EXPECT_EQ(refused.outcome, ReadOutcome::Unreadable);
-  EXPECT_EQ(refused.message, "Cannot open " + folder.folder() + ": it is a folder");
-  const std::string missing = folder.file("missing.txt");
-  EXPECT_EQ(readPuzzle(missing, 1, board, state, {}).message, "Cannot open " + missing + ": No such file or directory");
-}
-
 }  // namespace
 }  // namespace combwise
