@@ -96,6 +96,7 @@ TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCauseAndAnOutputIsAnInputUn
   EXPECT_EQ(unreadableReason(none), "Cannot open " + none + ": No such file or directory");
   EXPECT_EQ(unreadableReason(temp.folder()), "Cannot open " + temp.folder() + ": it is a folder");
   EXPECT_EQ(unreadableReason(""), "Cannot open a file without a name");
+  for (const std::string& path : {none, temp.folder()}) EXPECT_EQ(LineReader(path).error(), unreadableReason(path));
   EXPECT_TRUE(sameFile(file, temp.folder() + "./set.txt"));
   EXPECT_FALSE(sameFile(file, none));
 
