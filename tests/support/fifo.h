@@ -1,6 +1,5 @@
-// Readers tried on a named pipe: each runs on a thread of its own under a
-// deadline, and one that waits on the pipe is freed by opening and closing
-// the pipe's other end, so a reader that blocks fails its test instead of
+// A named pipe to hand to readers and writers: each use runs on a thread of
+// its own under a deadline, and one that blocks fails its test instead of
 // hanging the suite.
 #pragma once
 

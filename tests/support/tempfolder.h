@@ -31,6 +31,13 @@ class TempFolder {
   // The folder with a trailing separator, as the program folder is given.
   std::string folder() const { return m_path.string() + "/"; }
   std::string file(const std::string& name) const { return (m_path / name).string(); }
+  // Writes `content` as it is to a file of the folder and returns its path.
+  std::string write(const std::string& name, const std::string& content) const {
+    std::ofstream(file(name), std::ios::binary) << content;
+    return file(name);
+  }
+  // How many files and folders the folder holds: temporary files left behind show here.
+  long entries() const { return static_cast<long>(std::distance(std::filesystem::directory_iterator(m_path), {})); }
 
   // A file's bytes as they are on disk, line ends included.
   static std::string contentOf(const std::string& file) {

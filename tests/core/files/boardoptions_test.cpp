@@ -6,14 +6,6 @@
 namespace combwise {
 namespace {
 
-TEST(BoardOptions, StartupColoursStandOutFromTheHexagonFill) {
-  const Settings settings = startupSettings();
-  EXPECT_NE(settings.GivenLetterColour, settings.HexFillColour);
-  EXPECT_NE(settings.EntryColour, settings.HexFillColour);
-  EXPECT_NE(settings.OutlineColour, settings.HexFillColour);
-  EXPECT_FALSE(settings.recentSeparatorShown());
-}
-
 // The border width wraps above twenty and stops at one; the font size is held
 // between eight and thirty-two.
 TEST(BoardOptions, SampleClicksStepWithinTheirLimits) {
@@ -28,34 +20,27 @@ TEST(BoardOptions, SampleClicksStepWithinTheirLimits) {
   EXPECT_EQ(nextBoardFontSize(0, SampleClick::Left), 8);
 }
 
-// A configuration that leaves the font, size or width unset (zero, empty)
-// draws with the start-up values; an options choice lands in the right
-// settings, the scheme's button colour settled.
+// An unset font, size or width (zero, empty) draws with the start-up values.
 TEST(BoardOptions, TheLookFallsBackToTheStartupValuesAndAChoiceLandsInItsSettings) {
   Settings unset;
   unset.EntryColour = rgb(1, 2, 3);
   const BoardLook look = boardLook(unset);
-  EXPECT_EQ(look.fontName, "Arial");
-  EXPECT_EQ(look.fontSize, 10);
-  EXPECT_EQ(look.outlineWidth, 2);
+  EXPECT_EQ(look.fontName, kDefaultBoardFontName);
+  EXPECT_EQ(look.fontSize, kDefaultBoardFontSize);
+  EXPECT_EQ(look.outlineWidth, kDefaultOutlineWidth);
   EXPECT_EQ(look.entries, rgb(1, 2, 3));
 
+  // The choice's colours land in their settings, and the scheme's button
+  // colour is settled before it is kept.
   OptionsChoice choice;
   choice.scheme.name = "night.col";
   choice.colours = {11, 22, 33, 44, 55};
-  choice.outlineWidth = 7;
-  choice.fontSize = 14;
-  choice.fontName = "Courier New";
   Settings settings = startupSettings();
   ColourScheme scheme;
   applyOptions(choice, settings, scheme);
   EXPECT_EQ(boardColours(settings), choice.colours);
   EXPECT_EQ(settings.OutlineColour, 11);
-  EXPECT_EQ(settings.HexFillColour, 55);
-  EXPECT_EQ(settings.schemeName, "night.col");
-  EXPECT_EQ(scheme[ColourScheme::kButtonOverride], scheme[ColourScheme::kButtons]);
-  EXPECT_EQ(settings.schemeColour13, scheme[ColourScheme::kButtonOverride]);
-  EXPECT_EQ(boardLook(settings).fontName, "Courier New");
+  EXPECT_EQ(settings.schemeColour13, scheme[ColourScheme::kButtons]);
 }
 
 }  // namespace

@@ -31,24 +31,16 @@ class ConfigFile : public ::testing::Test {
   const std::string defaultDictionary = folder.folder() + "english3.txt";
 };
 
-TEST_F(ConfigFile, SavedSettingsReadBackTheSame) {
-  Settings saved = defaults;
-  saved.collectionPath = "/home/me/set 1.txt";
-  saved.dictionaryPath = folder.file("words.txt");
-  saved.PuzzleNumber = 7;
-  saved.BoardFontSize = 10;
-  saved.OutlineColour = 255;
-  saved.HexNumberColour = 16777215;
-  saved.EntryColour = 3;
-  saved.OutlineWidth = 2;
-  saved.schemeColour13 = 8421504;
-  saved.recentFiles = {{{"/a/one.txt", true}, {"/b/two.txt", true}, {"", false}, {"", false}, {"", false}}};
+// Which line and field holds what is pinned by the reading tests below.
+TEST_F(ConfigFile, SavingWritesTheTenLinesReadAndReplacesTheFile) {
+  const std::string numbers = " 7  10  255  0  16777215  3  0  2  8421504 ";
+  const std::vector<std::string> lines{
+      "blue.col", "/s 1.txt", folder.file("words.txt"), "Sans", numbers, "/a/1.txt", "/b/2.txt", "", "", ""};
+  const Settings saved = readBack(lines);
+  EXPECT_EQ(saved.HexNumberColour, 16777215);
   ASSERT_TRUE(SavecfgFile(folder.folder(), saved).ok());
   ASSERT_TRUE(SavecfgFile(folder.folder(), saved).ok());  // replaces, never appends
-
-  const auto lines = *readLines(folder.file("combwise.cfg"));
-  ASSERT_EQ(lines.size(), 10u);
-  EXPECT_EQ(lines[4], " 7  10  255  0  16777215  3  0  2  8421504 ");
+  EXPECT_EQ(*readLines(folder.file("combwise.cfg")), lines);
   Settings settings = defaults;
   ReadcfgFile(folder.folder(), settings);
   EXPECT_EQ(settings, saved);

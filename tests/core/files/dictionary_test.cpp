@@ -1,4 +1,5 @@
-// The dictionary pools, the anagram keys, and clue lookup by meaning number.
+// The dictionary pools, the anagram keys and their case-blind list, and clue
+// lookup by meaning number.
 #include "core/files/dictionary.h"
 
 #include <gmock/gmock.h>
@@ -10,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "core/files/sortedkeylist.h"
 #include "core/files/textfile.h"
 #include "support/tempfolder.h"
 
@@ -31,8 +33,6 @@ TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCou
   int pumped = 0;
   ASSERT_TRUE(readDictionary(first, dictionary, [&] { ++pumped; }).ok());
   EXPECT_EQ(pumped, 14);
-  EXPECT_EQ(dictionary.path, first);
-  EXPECT_EQ(dictionary.skippedLines, 7);
   EXPECT_EQ(skippedLinesWarning(dictionary),
             "7 lines of " + first + " are not words of 3 to 6 letters A-Z and were skipped");
   EXPECT_THAT(dictionary.Words3.items(), ElementsAre("TEA"));
@@ -47,10 +47,18 @@ TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCou
   ASSERT_TRUE(readDictionary(second, dictionary).ok());  // replaces, never merges
   EXPECT_TRUE(dictionary.empty());
   EXPECT_TRUE(dictionary.SixLetterKeys.empty());
+}
 
-  const Status missing = readDictionary(folder.file("missing.txt"), dictionary);
-  EXPECT_EQ(missing.error, "Cannot open " + folder.file("missing.txt") + ": No such file or directory");
-  EXPECT_EQ(readDictionary(folder.folder(), dictionary).error, "Cannot open " + folder.folder() + ": it is a folder");
+TEST(SortedKeyList, KeepsCaseBlindOrderAndFindsTheFirstEntryWithAPrefix) {
+  SortedKeyList keys;
+  EXPECT_EQ(keys.firstWithPrefix("A"), -1);
+  for (const char* key : {"beta", "Alpha", "alphabet", "gamma", "ALPHA", "Zed"}) keys.insert(key);
+  EXPECT_THAT(keys.items(), ElementsAre("Alpha", "ALPHA", "alphabet", "beta", "gamma", "Zed"));
+  EXPECT_EQ(keys.firstWithPrefix("al"), 0);
+  EXPECT_EQ(keys.firstWithPrefix("ALPHAB"), 2);
+  EXPECT_EQ(keys.firstWithPrefix("z"), 5);
+  EXPECT_EQ(keys.firstWithPrefix("alphas"), -1);
+  EXPECT_EQ(keys.firstWithPrefix("delta"), -1);
 }
 
 TEST(MeaningsFile, TheMeaningNumberPicksTheLineAndAnythingElseGivesNoClue) {
@@ -62,10 +70,9 @@ TEST(MeaningsFile, TheMeaningNumberPicksTheLineAndAnythingElseGivesNoClue) {
   Meanings meanings;
   ASSERT_TRUE(meanings.read(path).ok());
   EXPECT_EQ(meanings.clue("TEAR", 3), "a spree");
-  EXPECT_EQ(meanings.clue("TEAR", 4), "");  // the next line belongs to TEARS
-  EXPECT_EQ(meanings.clue("TEAR", 0), "");
-  EXPECT_EQ(meanings.clue("TEAS", 2), "");  // past the last line
-  EXPECT_EQ(meanings.clue("GONE", 1), "");
+  // The next line belongs to TEARS, and TEAS has no line past the last.
+  for (const auto& [word, number] : {std::pair{"TEAR", 4}, {"TEAR", 0}, {"TEAS", 2}, {"GONE", 1}})
+    EXPECT_EQ(meanings.clue(word, number), "") << word << number;
 
   // Read once: a second read keeps the lines even when the file is gone.
   std::filesystem::remove(path);

@@ -1,68 +1,71 @@
-// Every reader of the program's files, handed a named pipe where a file
-// should be: each refuses it at once with the cause, instead of waiting for
-// a writer that never comes.
+// Every reader and writer of the program's files, handed a named pipe where
+// a file should be: each refuses it at once with the cause, instead of
+// waiting for the other end that never comes.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include "core/files/atomicfile.h"
 #include "core/files/collectiontools.h"
 #include "core/files/colourscheme.h"
 #include "core/files/config.h"
 #include "core/files/dictionary.h"
 #include "core/files/puzzlefile.h"
-#include "core/model/board.h"
-#include "core/model/puzzlestate.h"
+#include "core/files/textfile.h"
 #include "support/fifo.h"
 #include "support/tempfolder.h"
 
 namespace combwise {
 namespace {
 
-using ::testing::Contains;
-using ::testing::HasSubstr;
-
-TEST(Pipes, EveryReaderRefusesAPipeWithoutWaitingOnIt) {
+TEST(Pipes, EveryReaderAndWriterRefusesAPipeWithoutWaitingOnIt) {
   TempFolder temp;
   const Fifo pipe(temp.file("pipe.txt"));
   const Fifo config(temp.file("combwise.cfg"));
   ASSERT_TRUE(pipe.made() && config.made());
-  const std::string refused = "Cannot open " + pipe.path() + ": it is not a regular file";
-
-  Status status;
-  Dictionary dictionary;
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { status = readDictionary(pipe.path(), dictionary); }));
-  EXPECT_EQ(status.error, refused);
-  Meanings meanings;
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { status = meanings.read(pipe.path()); }));
-  EXPECT_EQ(status.error, refused);
-
+  const std::string& path = pipe.path();
+  const std::string refused = "Cannot open " + path + ": it is not a regular file";
+  const std::string unwritable = "Cannot write " + path + ": it is not a regular file";
   Board board;
   PuzzleState state;
-  state.PuzzleCount = 3;
-  PuzzleReadResult read;
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] {
-    EXPECT_EQ(countPuzzles(pipe.path()), 0);
-    read = readPuzzle(pipe.path(), 1, board, state, {});
-  }));
-  EXPECT_EQ(read.message, refused);
-  RandomizeResult randomized;
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] {
-    RandomSource random = RandomSource::seeded(1);
-    randomized = randomizeCollection(pipe.path(), random);
-  }));
-  EXPECT_EQ(randomized.status.error, refused);
-
+  state.PuzzleCount = 0;  // as counted: a pipe is refused, not taken for an empty collection
+  Dictionary dictionary;
+  Meanings meanings;
+  RandomSource random = RandomSource::seeded(1);
   ColourScheme scheme;
-  SchemeLoad load;
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] {
-    EXPECT_TRUE(schemeList(pipe.path()).empty());
-    load = loadStartupScheme(pipe.path(), "blue.col", scheme, DesignedColours{});
-  }));
-  EXPECT_EQ(load.detail, refused);
+  struct Use {
+    const char* what;
+    std::function<std::string()> run;
+    std::string expected;  // empty where the use gives no message, only a failure
+  } const uses[] = {
+      {"line reader", [&] { return LineReader(path).error(); }, refused},
+      {"read lines", [&] { return readLines(path) ? "read" : ""; }, ""},
+      {"count", [&] { return std::to_string(countLines(path) + countPuzzles(path)); }, "0"},
+      {"reason", [&] { return unreadableReason(path).value_or(""); }, refused},
+      {"dictionary", [&] { return readDictionary(path, dictionary).error; }, refused},
+      {"meanings", [&] { return meanings.read(path).error; }, refused},
+      {"collection", [&] { return readPuzzle(path, 1, board, state, {}).message; }, refused},
+      {"randomize", [&] { return randomizeCollection(path, random).status.error; }, refused},
+      {"scheme list", [&] { return schemeList(path).empty() ? "" : "listed"; }, ""},
+      {"scheme", [&] { return loadStartupScheme(path, "blue.col", scheme, DesignedColours{}).detail; }, refused},
+      {"append", [&] { return appendLines(path, {"x"}).error; }, unwritable},
+      // With no reader at the other end a plain write fails at once.
+      {"write", [&] { return writeLines(path, {"x"}, WriteMode::Truncate) ? "written" : ""; }, ""},
+      {"atomic write", [&] { return writeFileAtomically(path, "x").error; }, unwritable},
+  };
+  for (const Use& use : uses) {
+    SCOPED_TRACE(use.what);
+    std::string result;
+    EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { result = use.run(); }));
+    EXPECT_EQ(result, use.expected);
+  }
 
   ConfigRead configRead;
   Settings settings;
   EXPECT_TRUE(config.returnsWithoutWaiting([&] { configRead = ReadcfgFile(temp.folder(), settings); }));
-  EXPECT_THAT(configRead.notes, Contains(HasSubstr(config.path() + ": it is not a regular file")));
+  EXPECT_THAT(configRead.notes,
+              ::testing::Contains(::testing::HasSubstr(config.path() + ": it is not a regular file")));
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
-// Where the program reads and writes its files, with a writable and with a
-// read-only program folder, and where the user's folders are.
+// Where the program finds its own files, where it reads and writes them with
+// a writable and with a read-only program folder, and the user's folders.
 #include "core/files/programfiles.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 
 #include "core/files/errorlog.h"
 #include "core/files/programfolder.h"
@@ -15,7 +14,24 @@
 namespace combwise {
 namespace {
 
-void writeFile(const std::string& path, const std::string& content) { std::ofstream(path) << content; }
+TEST(ProgramFolder, HomeOptionThenEnvironmentThenTheExecutableOrItsInstallationsDataFolder) {
+  EXPECT_EQ(resolveProgramFolder("/opt/home", "/env/home", "/bin/dir/"), "/opt/home/");
+  EXPECT_EQ(resolveProgramFolder(std::nullopt, "/env/home/", "/bin/dir/"), "/env/home/");
+  EXPECT_EQ(resolveProgramFolder(std::nullopt, "", "/bin/dir"), "/bin/dir/");
+  EXPECT_EQ(resolveProgramFolder(std::nullopt, nullptr, "/bin/dir"), "/bin/dir/");
+  const std::string folder = executableFolder();
+  EXPECT_TRUE(folder.back() == '/' && std::filesystem::equivalent(folder, COMBWISE_BIN_DIR));
+
+  TempFolder prefix;
+  std::filesystem::create_directories(prefix.file("bin"));
+  std::filesystem::create_directories(prefix.file("share/combwise"));
+  const std::string bin = prefix.file("bin");
+  EXPECT_EQ(dataFolderBeside(bin, "../share/combwise"), bin + "/");  // no data anywhere
+  prefix.write("share/combwise/english3.txt", "CAT\n");
+  EXPECT_EQ(dataFolderBeside(bin, "../share/combwise"), prefix.file("share/combwise") + "/");
+  prefix.write("bin/english3.txt", "CAT\n");  // data beside the executable (the build's bin) wins
+  EXPECT_EQ(dataFolderBeside(bin + "/", "../share/combwise"), bin + "/");
+}
 
 TEST(UserFolders, FollowTheXdgVariablesOnlyWhenTheyAreAbsolute) {
   const UserFolders set = userFoldersFrom("/cfg", "/data/", "/home/ann");
@@ -39,7 +55,7 @@ TEST(ProgramFiles, AWritableProgramFolderServesEveryFileAndCreatesNothingElse) {
   }
   // A stray user copy does not shadow the program folder's file.
   std::filesystem::create_directories(home.file("cfg"));
-  writeFile(home.file("cfg/combwise.cfg"), "user\n");
+  home.write("cfg/combwise.cfg", "user\n");
   EXPECT_EQ(files.readPath(kConfigFile), program.folder() + kConfigFile);
   EXPECT_FALSE(std::filesystem::exists(home.file("data")));
 }
@@ -47,14 +63,12 @@ TEST(ProgramFiles, AWritableProgramFolderServesEveryFileAndCreatesNothingElse) {
 TEST(ProgramFiles, AReadOnlyProgramFolderSendsWritesToTheUserFoldersAndReadsThemFirst) {
   TempFolder program;
   TempFolder home;
-  writeFile(program.file("combwise.cfg"), "shipped\n");
-  writeFile(program.file("puzzles.txt"), "readymade\n");
+  program.write("combwise.cfg", "shipped\n");
+  program.write("puzzles.txt", "readymade\n");
   const ProgramFiles files(program.folder(), {home.file("cfg"), home.file("data")}, false);
   ASSERT_TRUE(files.usesUserFolders());
-
   // Until the user has a copy, reading falls back to the program folder.
   EXPECT_EQ(files.readPath(kConfigFile), program.folder() + kConfigFile);
-  EXPECT_EQ(files.readPath("puzzles.txt"), program.folder() + "puzzles.txt");
 
   // Settings go to the config folder, everything else to the data folder;
   // both are created on the way.
@@ -66,9 +80,9 @@ TEST(ProgramFiles, AReadOnlyProgramFolderSendsWritesToTheUserFoldersAndReadsThem
   EXPECT_TRUE(std::filesystem::is_directory(home.file("data")));
 
   // An empty user file counts as none; one with content is read first.
-  writeFile(config, "");
+  home.write("cfg/combwise.cfg", "");
   EXPECT_EQ(files.readPath(kConfigFile), program.folder() + kConfigFile);
-  writeFile(config, "mine\n");
+  home.write("cfg/combwise.cfg", "mine\n");
   EXPECT_EQ(files.readPath(kConfigFile), config);
   EXPECT_EQ(files.readFolder(kConfigFile), home.file("cfg") + "/");
   EXPECT_EQ(files.readPath("puzzles.txt"), program.folder() + "puzzles.txt");
@@ -82,30 +96,14 @@ TEST(ProgramFiles, AReadOnlyProgramFolderSendsWritesToTheUserFoldersAndReadsThem
 TEST(ProgramFiles, TheDecisionComesFromWhetherTheFolderCanBeWritten) {
   TempFolder program;
   EXPECT_TRUE(isWritableFolder(program.folder()));
-  EXPECT_FALSE(isWritableFolder(program.file("missing")));
   EXPECT_TRUE(ProgramFiles(program.file("missing"), {"/c", "/d"}).usesUserFolders());
   if (::geteuid() != 0) {  // permissions do not stop root
     std::filesystem::permissions(program.folder(), std::filesystem::perms::owner_write,
                                  std::filesystem::perm_options::remove);
-    EXPECT_FALSE(isWritableFolder(program.folder()));
     EXPECT_TRUE(ProgramFiles(program.folder(), {"/c", "/d"}).usesUserFolders());
     std::filesystem::permissions(program.folder(), std::filesystem::perms::owner_write,
                                  std::filesystem::perm_options::add);
   }
-}
-
-TEST(ProgramFolder, AnInstalledExecutableFindsTheDataFolderOfItsInstallation) {
-  TempFolder prefix;
-  std::filesystem::create_directories(prefix.file("bin"));
-  std::filesystem::create_directories(prefix.file("share/combwise"));
-  const std::string bin = prefix.file("bin");
-  // No data anywhere: the executable's folder, as before.
-  EXPECT_EQ(dataFolderBeside(bin, "../share/combwise"), bin + "/");
-  writeFile(prefix.file("share/combwise/english3.txt"), "CAT\n");
-  EXPECT_EQ(dataFolderBeside(bin, "../share/combwise"), prefix.file("share/combwise") + "/");
-  // Data beside the executable (the build's bin) wins.
-  writeFile(prefix.file("bin/english3.txt"), "CAT\n");
-  EXPECT_EQ(dataFolderBeside(bin + "/", "../share/combwise"), bin + "/");
 }
 
 }  // namespace

@@ -50,13 +50,10 @@ TEST(ProgressFile, KeepsLettersAndSolvesAcrossASaveAndARead) {
   Puzzle7 later;
   later.state.Entries.at(4, 7) = "Q";  // a letter left from another puzzle on this board
   EXPECT_EQ(read.store.restoreEntries(collection, 3, later.board, later.state), 53);
-  EXPECT_EQ(later.state.Entries.at(2, 7), "A");
-  EXPECT_EQ(later.state.Entries.at(3, 8), "@");
-  EXPECT_EQ(later.state.Entries.at(4, 7), "");
-  EXPECT_EQ(later.state.Entries.at(1, 5), "");
+  const auto& entries = later.state.Entries;
+  EXPECT_EQ(entries.at(2, 7) + entries.at(3, 8) + "|" + entries.at(4, 7) + entries.at(1, 5), "A@|");
   EXPECT_FALSE(read.store.restoreEntries(collection, 4, later.board, later.state));
-  EXPECT_TRUE(read.store.solved(collection, 3));
-  EXPECT_FALSE(read.store.solved(collection, 4));
+  EXPECT_TRUE(read.store.solved(collection, 3) && !read.store.solved(collection, 4));
 
   // A relative path names the same collection as its absolute form.
   const auto here = std::filesystem::current_path();
@@ -124,10 +121,7 @@ TEST(ProgressFile, StaysBoundedAndFailsWithTheFileNamed) {
   const ProgressRead dir = readProgressFile(folder.file("dir"));
   ASSERT_EQ(dir.problems.size(), 1u);
   EXPECT_NE(dir.problems[0].find(folder.file("dir")), std::string::npos);
-  std::filesystem::create_directory(folder.file("dir/combwise-progress.txt"));
-  const Status failed = writeProgressFile(folder.file("dir/combwise-progress.txt"), store);
-  EXPECT_FALSE(failed.ok());
-  EXPECT_NE(failed.error.find("combwise-progress.txt"), std::string::npos);
+  EXPECT_NE(writeProgressFile(folder.file("dir"), store).error.find(folder.file("dir")), std::string::npos);
 
   writeLines(folder.file("long.txt"), {std::string(kMaxProgressLine + 10, 'x'), "solved 1 5 5 /d.txt"},
              WriteMode::Truncate);

@@ -94,9 +94,9 @@ TEST_F(CollectionFile, WrittenPuzzlesReadBackAndTheBoardIsRebuiltOnlyOnASizeSwit
     EXPECT_EQ(result.rebuilt, rebuilt) << n;
     EXPECT_EQ(state.PuzzleNumber, number);
     EXPECT_EQ(state.CollectionPath, path);
-    EXPECT_TRUE(state.Letters == written->Letters) << n;
-    EXPECT_EQ(state.WordSlots, written->WordSlots) << n;
-    EXPECT_EQ(state.MeaningNumbers, written->MeaningNumbers) << n;
+    EXPECT_TRUE(std::tie(state.Letters, state.WordSlots, state.MeaningNumbers) ==
+                std::tie(written->Letters, written->WordSlots, written->MeaningNumbers))
+        << n;
   }
   EXPECT_EQ(state.Entries.at(3, 6), "Q");
   EXPECT_EQ(state.SelRow, 0);
@@ -185,26 +185,6 @@ TEST_F(CollectionFile, CluesComeFromTheMeaningsAndTheWordListsSkipEmptySlots) {
   EXPECT_FALSE(missing.clues.ok());
   EXPECT_EQ(state.ClueTexts[1], "");
   EXPECT_EQ(state.WordSlots[1], "TEAR");
-}
-
-// Pipes are refused with every other reader's in the pipes test.
-TEST_F(CollectionFile, FoldersAndMissingFilesAreRefusedWithTheirCauseNotCountedAsEmpty) {
-  state.PuzzleCount = 0;
-  const auto refused = readPuzzle(folder.folder(), 1, board, state, {});
-  EXPECT_EQ(refused.outcome, ReadOutcome::Unreadable);
-  EXPECT_EQ(refused.message, "Cannot open " + folder.folder() + ": it is a folder");
-  const std::string missing = folder.file("missing.txt");
-  EXPECT_EQ(readPuzzle(missing, 1, board, state, {}).message, "Cannot open " + missing + ": No such file or directory");
-}
-
-TEST_F(CollectionFile, SavingAfterALastLineWithoutItsEndStartsANewLine) {
-  const std::string path = folder.file("set.txt");
-  const std::string first = puzzleLine(filledPuzzle(7, 1));
-  ASSERT_TRUE(replaceFileContent(path, first));  // no CR LF at its end
-  const PuzzleState second = filledPuzzle(10, 2);
-  ASSERT_TRUE(writePuzzle(path, WriteMode::Append, second).ok());
-  EXPECT_EQ(TempFolder::contentOf(path), first + "\r\n" + puzzleLine(second) + "\r\n");
-  EXPECT_EQ(countPuzzles(path), 2);
 }
 
 }  // namespace

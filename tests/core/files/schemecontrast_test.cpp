@@ -3,12 +3,10 @@
 // hexagons, also on a highlighted one.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 #include "core/files/boardoptions.h"
 #include "core/files/contrast.h"
 #include "core/play/boardscene.h"
+#include "support/tempfolder.h"
 
 namespace combwise {
 namespace {
@@ -32,28 +30,25 @@ TEST(SchemeContrast, RatiosFollowTheGuidelines) {
 }
 
 TEST(SchemeContrast, EveryShippedSchemeIsReadable) {
-  const std::string file = COMBWISE_BIN_DIR "/all.col";  // the shipped copy of data/all.col;
-  std::ifstream in(file, std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
+  const std::string file = COMBWISE_BIN_DIR "/all.col";  // the shipped copy of data/all.col
+  const std::string text = TempFolder::contentOf(file);
   const std::vector<std::string> names = schemeList(file);
   ASSERT_GE(names.size(), 6u);
   for (const auto& name : names) {
     ColourScheme scheme;
-    ASSERT_EQ(readSchemeText(text.str(), name + ".col", scheme.colours), SchemeSearch::Complete) << name;
+    ASSERT_EQ(readSchemeText(text, name + ".col", scheme.colours), SchemeSearch::Complete) << name;
     expectReadable(name, SchemeBoardColours::of(scheme));
   }
 }
 
 TEST(SchemeContrast, TheBoardBeforeAnySettingsIsReadable) {
   const Settings start = startupSettings();
-  SchemeBoardColours colours;
-  colours.fill = start.HexFillColour;
-  colours.outline = start.OutlineColour;
-  colours.numbers = start.HexNumberColour;
-  colours.given = start.GivenLetterColour;
-  colours.entries = start.EntryColour;
-  colours.highlight = ColourScheme{}[SchemeBoardColours::kHighlight];
+  const SchemeBoardColours colours{.fill = start.HexFillColour,
+                                   .outline = start.OutlineColour,
+                                   .numbers = start.HexNumberColour,
+                                   .given = start.GivenLetterColour,
+                                   .entries = start.EntryColour,
+                                   .highlight = ColourScheme{}[SchemeBoardColours::kHighlight]};
   expectReadable("start-up board", colours);
 }
 

@@ -1,5 +1,5 @@
-// Plain-text files: reading either line end, writing CR LF, counting lines,
-// and replacing a file's content safely.
+// Plain-text files: reading either line end, writing CR LF, appending
+// safely, and naming what cannot be read with its cause.
 #include "core/files/textfile.h"
 
 #include <gmock/gmock.h>
@@ -8,9 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <fstream>
+#include <cerrno>
 
-#include "support/fifo.h"
 #include "support/filesizelimit.h"
 #include "support/tempfolder.h"
 
@@ -19,13 +18,11 @@ namespace {
 
 using ::testing::ElementsAre;
 
-void putFile(const std::string& path, const std::string& content) { std::ofstream(path, std::ios::binary) << content; }
-
 TEST(TextFile, ReadsCrLfAndLfAndCountsAnUnendedLastLine) {
   TempFolder temp;
-  const std::string path = temp.file("mixed.txt"), missing = temp.file("missing.txt");
+  const std::string missing = temp.file("missing.txt");
   const std::string longLine(10000, 'x');  // longer than any read buffer
-  putFile(path, "one\r\ntwo\n\r\n" + longLine + "\r\nlast");
+  const std::string path = temp.write("mixed.txt", "one\r\ntwo\n\r\n" + longLine + "\r\nlast");
   EXPECT_THAT(*readLines(path), ElementsAre("one", "two", "", longLine, "last"));
   EXPECT_EQ(countLines(path), 5);
   LineReader reader(path);
@@ -33,7 +30,7 @@ TEST(TextFile, ReadsCrLfAndLfAndCountsAnUnendedLastLine) {
   EXPECT_EQ(reader.next(), "last");
   EXPECT_FALSE(reader.next() || reader.skip() || reader.failed());
 
-  putFile(path, "");
+  temp.write("mixed.txt", "");
   EXPECT_EQ(countLines(path) + countLines(missing), 0);
   EXPECT_THAT(*readLines(path), ElementsAre());
   EXPECT_FALSE(readLines(missing));
@@ -51,14 +48,13 @@ TEST(TextFile, WritesCrLfAppendsAndReplacesWithoutLeavingATemporaryFile) {
 
   ASSERT_TRUE(replaceFileContent(path, "new\r\n"));
   EXPECT_EQ(TempFolder::contentOf(path), "new\r\n");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(temp.folder()), {}), 1);
+  EXPECT_EQ(temp.entries(), 1);
   EXPECT_FALSE(replaceFileContent(temp.file("no/folder.txt"), "x"));
 }
 
-TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItWas) {
+TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedAppendOrReplaceLeavesTheFileAsItWas) {
   TempFolder temp;
-  const std::string path = temp.file("set.txt");
-  putFile(path, "one\r\ntwo");
+  const std::string path = temp.write("set.txt", "one\r\ntwo");
   ASSERT_TRUE(appendLines(path, {"three"}).ok());
   ASSERT_TRUE(appendLines(path, {"four"}).ok());
   EXPECT_EQ(TempFolder::contentOf(path), "one\r\ntwo\r\nthree\r\nfour\r\n");
@@ -67,8 +63,7 @@ TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItW
   const std::string fresh = temp.file("fresh.txt");
   {
     const FileSizeLimit full(before.size() + 10);
-    const Status failed = appendLines(path, {std::string(100, 'x')});
-    EXPECT_EQ(failed.error, "Cannot write " + path + ": File too large");
+    EXPECT_EQ(appendLines(path, {std::string(100, 'x')}).error, "Cannot write " + path + ": File too large");
     // A long run is taken back whole: the file is as it was before the run.
     LineAppender appender(path);
     EXPECT_TRUE(appender.add("five").ok());
@@ -77,9 +72,12 @@ TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItW
     LineAppender created(fresh);
     EXPECT_TRUE(created.add("short").ok());
     EXPECT_FALSE(created.add(std::string(100, 'y')).ok());
+    // A replaced file (settings, progress, listings) keeps its old content.
+    EXPECT_FALSE(replaceFileContent(path, std::string(100, 'z')));
+    EXPECT_EQ(errno, EFBIG);
   }
   EXPECT_EQ(TempFolder::contentOf(path), before);
-  EXPECT_FALSE(std::filesystem::exists(fresh));
+  EXPECT_EQ(temp.entries(), 1);  // no new or temporary file
 
   // A run that writes nothing leaves no new file behind.
   LineAppender unused(temp.file("unused.txt"));
@@ -91,59 +89,30 @@ TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedWriteLeavesTheFileAsItW
             "Cannot write " + temp.file("no/set.txt") + ": No such file or directory");
 }
 
-TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCause) {
+// Pipes are refused with every other reader's in the pipes test.
+TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCauseAndAnOutputIsAnInputUnderAnySpelling) {
   TempFolder temp;
-  const std::string file = temp.file("set.txt");
-  const Fifo pipe(temp.file("pipe"));
-  ASSERT_TRUE(pipe.made());
-  putFile(file, "x\r\n");
-  EXPECT_EQ(unreadableReason(temp.file("none.txt")),
-            "Cannot open " + temp.file("none.txt") + ": No such file or directory");
+  const std::string file = temp.write("set.txt", "x\r\n"), none = temp.file("none.txt");
+  EXPECT_EQ(unreadableReason(none), "Cannot open " + none + ": No such file or directory");
   EXPECT_EQ(unreadableReason(temp.folder()), "Cannot open " + temp.folder() + ": it is a folder");
-  EXPECT_EQ(unreadableReason(pipe.path()), "Cannot open " + pipe.path() + ": it is not a regular file");
   EXPECT_EQ(unreadableReason(""), "Cannot open a file without a name");
+  for (const std::string& path : {none, temp.folder()}) EXPECT_EQ(LineReader(path).error(), unreadableReason(path));
+  EXPECT_TRUE(sameFile(file, temp.folder() + "./set.txt"));
+  EXPECT_FALSE(sameFile(file, none));
+
+  const std::vector<std::string> inputs{temp.write("other.txt", "y\r\n"), file};
+  std::filesystem::create_directory(temp.file("sub"));
+  std::filesystem::create_symlink(file, temp.file("link.txt"));
+  EXPECT_TRUE(outputIsAnInput(file, inputs));
+  EXPECT_TRUE(outputIsAnInput(temp.folder() + "sub/../set.txt", inputs));
+  EXPECT_TRUE(outputIsAnInput(temp.file("link.txt"), inputs));
+  EXPECT_FALSE(outputIsAnInput(none, inputs));  // not there yet
+  EXPECT_FALSE(outputIsAnInput(temp.file("sub"), inputs));
+  EXPECT_FALSE(outputIsAnInput(file, {}));
   if (geteuid() != 0) {  // root reads anything
     ASSERT_EQ(chmod(file.c_str(), 0), 0);
     EXPECT_EQ(unreadableReason(file), "Cannot open " + file + ": Permission denied");
   }
-  EXPECT_TRUE(sameFile(file, temp.folder() + "./set.txt"));
-  EXPECT_FALSE(sameFile(file, temp.file("none.txt")));
-}
-
-TEST(TextFileErrors, AnOutputIsAnInputUnderAnyOtherSpelling) {
-  TempFolder temp;
-  const std::string input = temp.file("set.txt"), other = temp.file("other.txt");
-  putFile(input, "x\r\n");
-  putFile(other, "y\r\n");
-  std::filesystem::create_directory(temp.file("sub"));
-  std::filesystem::create_symlink(input, temp.file("link.txt"));
-  const std::vector<std::string> inputs{other, input};
-  EXPECT_TRUE(outputIsAnInput(input, inputs));
-  EXPECT_TRUE(outputIsAnInput(temp.folder() + "sub/../set.txt", inputs));
-  EXPECT_TRUE(outputIsAnInput(temp.file("link.txt"), inputs));
-  EXPECT_FALSE(outputIsAnInput(temp.file("new.txt"), inputs));  // not there yet
-  EXPECT_FALSE(outputIsAnInput(temp.file("sub"), inputs));
-  EXPECT_FALSE(outputIsAnInput(input, {}));
-}
-
-TEST(TextFileErrors, APipeIsRefusedWithoutWaitingForItsOtherEnd) {
-  TempFolder temp;
-  const Fifo pipe(temp.file("pipe"));
-  ASSERT_TRUE(pipe.made());
-  const std::string refused = "Cannot open " + pipe.path() + ": it is not a regular file";
-  std::string error;
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] {
-    LineReader reader(pipe.path());
-    error = reader.error();
-    EXPECT_FALSE(reader.isOpen() || reader.next());
-  }));
-  EXPECT_EQ(error, refused);
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { EXPECT_FALSE(readLines(pipe.path())); }));
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { EXPECT_EQ(countLines(pipe.path()), 0); }));
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { error = appendLines(pipe.path(), {"x"}).error; }));
-  EXPECT_EQ(error, "Cannot write " + pipe.path() + ": it is not a regular file");
-  // With no reader at the other end a plain write fails at once.
-  EXPECT_TRUE(pipe.returnsWithoutWaiting([&] { EXPECT_FALSE(writeLines(pipe.path(), {"x"}, WriteMode::Truncate)); }));
 }
 
 }  // namespace
