@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <initializer_list>
 
 #include "core/files/textfile.h"
@@ -86,14 +85,13 @@ TEST(WordListSearch, WildcardsMatchSetsRangesAndDigitsAndManyStarsQuickly) {
   EXPECT_TRUE(matchesWildcard("TEARS", "*[!X]R[A-Z]") && matchesWildcard("AB1AB", "*B#*AB"));
   EXPECT_FALSE(matchesWildcard("TEARS", "*[XY]*") || matchesWildcard("ABAB", "*BA"));
 
-  // Trying every split of every "*" took 13 s here; 12 stars took 90 s.
-  const std::string text(40, 'A');
+  // Trying every split of every "*" took 13 s for ten stars and 90 s for
+  // twelve; with thirty stars such a matcher would not end at all.
+  const std::string text(200, 'A');
   std::string pattern;
-  for (int i = 0; i < 10; ++i) pattern += "*A";
-  const auto start = std::chrono::steady_clock::now();
+  for (int i = 0; i < 30; ++i) pattern += "*A";
   EXPECT_FALSE(matchesWildcard(text, pattern + "*B"));
   EXPECT_TRUE(matchesWildcard(text + "B", pattern + "*B"));
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }
 
 TEST(WordListErrors, OutOfRangeAccessChangesNothingReadsEmptyAndIsLogged) {
