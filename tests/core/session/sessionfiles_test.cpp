@@ -9,11 +9,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 #include "core/files/config.h"
 #include "core/files/programfiles.h"
 #include "core/session/gamesession.h"
+#include "scriptedhost.h"
 #include "support/gamedata.h"
 #include "support/tempfolder.h"
 
@@ -21,29 +21,6 @@ namespace combwise {
 namespace {
 
 using ::testing::HasSubstr;
-
-class QuietHost : public SessionHost {
- public:
-  int ask(const std::string&, const std::string&) override { return kAnswerYes; }
-  bool confirm(const std::string&) override { return true; }
-  std::string chooseFile(const FileQuestion& question) override {
-    questions.push_back(question);
-    std::string path;
-    std::swap(path, nextFile);
-    return path;
-  }
-  void tell(const Message& message) override { told.push_back(message); }
-
-  std::string nextFile;  // empty: the dialog is cancelled
-  std::vector<FileQuestion> questions;
-  std::vector<Message> told;
-};
-
-std::string writeLines(const std::string& path, const std::vector<std::string>& lines) {
-  std::ofstream out(path, std::ios::binary);
-  for (const auto& line : lines) out << line << "\r\n";
-  return path;
-}
 
 std::vector<std::string> namesIn(const std::string& folder) {
   std::vector<std::string> names;
@@ -65,18 +42,14 @@ class SessionFilesTest : public ::testing::Test {
   ProgramFiles installed() const {
     return ProgramFiles(program, {root.file("cfg") + "/", root.file("data") + "/"}, false);
   }
-  CommandResult open(GameSession& session, const std::string& path) {
-    host.nextFile = path;
-    return session.loadCollection();
-  }
 
   TempFolder root;
   std::string program = root.file("program") + "/";
-  QuietHost host;
+  testing::ScriptedHost host;
 };
 
 TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) {
-  const std::string collection = writeLines(root.file("ten.txt"), testing::readymadeSevens(10));
+  const std::string collection = testing::writeCrLf(root.file("ten.txt"), testing::readymadeSevens(10));
   const std::vector<std::string> programBefore = namesIn(program);
   {
     // The user's own settings are read rather than the program folder's.
@@ -114,10 +87,10 @@ TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) 
 
 TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
   const std::vector<std::string> lines = testing::readymadeSevens(3);
-  const std::string collection = writeLines(root.file("three.txt"), lines);
+  const std::string collection = testing::writeCrLf(root.file("three.txt"), lines);
   GameSession session(installed(), host);
   session.startUp();
-  open(session, collection);
+  host.open(session, collection);
   session.arrow(2, 1);
   const PuzzleState before = session.puzzle();
   const int sizeBefore = session.board().size();
@@ -140,7 +113,7 @@ TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
   EXPECT_EQ(after.PuzzleCount, 3);
   EXPECT_EQ(after.CollectionPath, collection);
 
-  host.nextFile = root.file("saved.txt");
+  host.files.push_back(root.file("saved.txt"));
   session.savePuzzle();
   EXPECT_EQ(TempFolder::contentOf(root.file("saved.txt")), lines[1] + "\r\n");
 }
@@ -150,32 +123,38 @@ TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
   GameSession session(program, host);
   session.startUp();
 
-  const std::string damaged = writeLines(root.file("damaged.txt"), {good[0], "7;ABC;NOCOMMA;", good[2]});
-  open(session, damaged);
+  const std::string damaged = testing::writeCrLf(root.file("damaged.txt"), {good[0], "7;ABC;NOCOMMA;", good[2]});
+  host.open(session, damaged);
   const CommandResult next = session.arrow(2, 1);
   EXPECT_EQ(next.status, "Error reading puzzle");
   EXPECT_THAT(*next.statusTip, HasSubstr(damaged + ", line 2: "));
-  EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");  // past the bad one
+  EXPECT_EQ(session.puzzle().PuzzleNumber, 2);  // the new number, so the arrows go on past it
+  EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");
   EXPECT_EQ(session.puzzle().PuzzleNumber, 3);
 
   const std::string pipe = root.file("pipe.txt");
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-  const CommandResult piped = open(session, pipe);
+  const CommandResult piped = host.open(session, pipe);
   EXPECT_EQ(piped.status, "Error loading puzzle file");
-  EXPECT_THAT(*piped.statusTip, HasSubstr("not a regular file"));
-  EXPECT_THAT(*piped.statusTip, HasSubstr(pipe));
-  EXPECT_EQ(session.puzzle().CollectionPath, damaged);
+  EXPECT_THAT(*piped.statusTip, HasSubstr(pipe + ": it is not a regular file"));
   // A recent file that has become a pipe says so rather than that it is missing.
   std::filesystem::remove(damaged);
   ASSERT_EQ(::mkfifo(damaged.c_str(), 0600), 0);
   const CommandResult recent = session.openRecent(0);
   ASSERT_EQ(recent.messages.size(), 1u);
   EXPECT_THAT(recent.messages[0].text, HasSubstr("not a regular file"));
+
+  // A collection that cannot be read leaves the one shown before.
+  EXPECT_EQ(host.open(session, testing::writeCrLf(root.file("bad.txt"), {"7;ABC;NOCOMMA;"})).status,
+            "Error loading puzzle file");
+  EXPECT_EQ(host.open(session, testing::writeCrLf(root.file("empty.txt"), {})).status, "No puzzles in empty.txt");
+  EXPECT_EQ(session.puzzle().CollectionPath, damaged);
+  EXPECT_EQ(session.puzzle().PuzzleCount, 3);
 }
 
 TEST_F(SessionFilesTest, ADamagedFirstPuzzleAtStartKeepsTheCollectionReachable) {
   const std::vector<std::string> good = testing::readymadeSevens(3);
-  const std::string collection = writeLines(root.file("c.txt"), {std::string(3000, '\x01'), good[1], good[2]});
+  const std::string collection = testing::writeCrLf(root.file("c.txt"), {std::string(3000, '\x01'), good[1], good[2]});
   GameSession session(program, host);
   session.startUp();
   session.setStartCollection(collection, 1);
@@ -188,7 +167,7 @@ TEST_F(SessionFilesTest, ADamagedFirstPuzzleAtStartKeepsTheCollectionReachable) 
 
 TEST_F(SessionFilesTest, AMissingMeaningsFileIsToldOnceWhenFirstNeeded) {
   std::filesystem::remove(program + kMeaningsFile);
-  const std::string collection = writeLines(root.file("three.txt"), testing::readymadeSevens(3));
+  const std::string collection = testing::writeCrLf(root.file("three.txt"), testing::readymadeSevens(3));
   GameSession session(program, host);
   session.startUp();
   session.setStartCollection(collection, 1);
@@ -201,7 +180,7 @@ TEST_F(SessionFilesTest, AMissingMeaningsFileIsToldOnceWhenFirstNeeded) {
 }
 
 TEST_F(SessionFilesTest, StartUpNoticesNameTheSettingsFileOrTheSchemeFileAndShowNoRawBytes) {
-  writeLines(program + kConfigFile, {"\x01\xfe\x7fgarbage.col", "", "", "Arial", " 2000  -1  500 "});
+  testing::writeCrLf(program + kConfigFile, {"\x01\xfe\x7fgarbage.col", "", "", "Arial", " 2000  -1  500 "});
   GameSession session(program, host);
   const CommandResult started = session.startUp();
   ASSERT_EQ(started.messages.size(), 2u);
