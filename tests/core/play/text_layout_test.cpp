@@ -22,15 +22,19 @@ TEST(WrapText, BreaksAtBlanksAndLineEnds) {
   EXPECT_TRUE(WrapText("", m, 100).empty());
 }
 
-TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
+// Two hexagons' clues, the first inside one wrapping to a text column of
+// 700 - 20 - 450 = 230 twips and the second outside one empty.
+CluePanel twoHexagons() {
   PuzzleState state;
   state.WordCount = 4;
   state.ClueTexts[1] = "outside one";
   state.ClueTexts[2] = "inside one is long enough to wrap";
-  state.ClueTexts[3] = "";
   state.ClueTexts[4] = "inside two";
-  const CharMeasure m;
-  const CluePanel panel = layOutClues(state, m, 700);  // text column 700 - 20 - 450 = 230 twips
+  return layOutClues(state, CharMeasure(), 700);
+}
+
+TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
+  const CluePanel panel = twoHexagons();
   std::vector<std::string> texts;
   for (const auto& line : panel.lines) texts.push_back(line.text);
   EXPECT_EQ(texts,
@@ -47,12 +51,7 @@ TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
 }
 
 TEST(CluePanel, LinksEachHexagonToItsTwoCluesAndBack) {
-  PuzzleState state;
-  state.WordCount = 4;
-  state.ClueTexts[1] = "outside one";
-  state.ClueTexts[2] = "inside one is long enough to wrap";
-  state.ClueTexts[4] = "inside two";
-  const CluePanel panel = layOutClues(state, CharMeasure(), 700);
+  const CluePanel panel = twoHexagons();
   const HexagonClues first = cluesOfHexagon(panel, 1);
   ASSERT_TRUE(first.inside && first.outside);
   EXPECT_EQ(*first.inside, (ClueSpan{2, 200, 400}));  // both of its wrapped lines
