@@ -123,6 +123,7 @@ TEST(CliCreate, ASeedGivesTheSameFileWhateverTheJobsAndRunsAppend) {
 TEST(CliArguments, BadArgumentsAndUnreadableFilesAreRefusedWithTheirCauseAndWriteNothing) {
   TempFolder temp;
   const std::string set = made(temp, 7, 2, 3), out = temp.file("x.pdf"), none = temp.file("none.txt");
+  const std::string before = TempFolder::contentOf(set);
   struct Case {
     std::vector<std::string> args;
     int status;
@@ -133,8 +134,6 @@ TEST(CliArguments, BadArgumentsAndUnreadableFilesAreRefusedWithTheirCauseAndWrit
       {{"create", "--size", "7"}, 2, "--output is required"},
       {{"create", "--size", "9", "--output", out}, 2, "--size"},
       {{"create", "--size", "7", "--count", "0", "--output", out}, 2, "--count"},
-      {{"create", "--size", "7", "--colour", "red", "--output", out}, 2, "--colour"},
-      {{"create", "--size", "7", "--size", "10", "--output", out}, 2, "--size is given more than once"},
       {{"create", "--size", "7", "--output", ""}, 2, "--output needs a value"},
       {{"create", "--size", "7", "--dictionary", none, "--output", out}, 1, none},
       {{"create", "--size", "22", "--dictionary", temp.file("ENGLISH2.TXT"), "--output", out}, 1, "english1/2"},
@@ -143,7 +142,6 @@ TEST(CliArguments, BadArgumentsAndUnreadableFilesAreRefusedWithTheirCauseAndWrit
       {{"--home", "b", "show", set}, 2, "--home is given more than once"},
       {{"show", set}, 2, "", ""},
       {{"show", ""}, 2, "an empty argument names no file"},
-      {{"show", set, "zero"}, 2, "zero"},
       {{"show", set, "900"}, 1, set + ": there is no puzzle 900: N must be from 1 to 2, or -1 for the last"},
       {{"show", none}, 1, "combwise-cli show: Cannot open " + none + ": No such file or directory\n"},
       {{"check", temp.folder()}, 1, temp.folder() + ": it is a folder"},
@@ -151,8 +149,8 @@ TEST(CliArguments, BadArgumentsAndUnreadableFilesAreRefusedWithTheirCauseAndWrit
       {{"pdf", set, "2-1", "--output", out}, 2, "Print range not correct"},
       {{"pdf", set, "3", "--output", out}, 2, "Print range not correct"},
       {{"pdf", set, " ", "--output", out}, 2, "Specify print range"},
-      {{"pdf", set, "1"}, 2, "--output"},
       {{"pdf", set, "1", "--output", set}, 1, "is an input of this command"},
+      {{"create", "--size", "7", "--dictionary", set, "--output", set}, 1, "is an input of this command"},
       {{"pdf", set, "1", "--output", out, "--booklet", "--paper", "A5"}, 2, "A5"},
       {{"pdf", set, "1", "--output", out, "--title", "T"}, 2, "--title"},
   };
@@ -164,6 +162,7 @@ TEST(CliArguments, BadArgumentsAndUnreadableFilesAreRefusedWithTheirCauseAndWrit
   }
   EXPECT_EQ(cli({"show", "--help"}).status, 0);
   EXPECT_EQ(filesIn(temp.folder()), 1);
+  EXPECT_EQ(TempFolder::contentOf(set), before);
 }
 
 TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListing) {
@@ -176,13 +175,10 @@ TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListing) {
   EXPECT_THAT(shown.out, ::testing::AllOf(HasSubstr("+---+04-+---+"), HasSubstr(" _ "), HasSubstr("  07. ")));
   EXPECT_THAT(cli({"show", collection, "-1", "--solution"}).out, Not(HasSubstr(" _ ")));
 
+  // The listing's layout is the clue listing's own test.
   const std::string listing = temp.file("clues.txt");
   ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}).status, 0);
-  const auto lines = *readLines(listing);
-  ASSERT_EQ(lines.size(), 20u);  // two banner lines, a blank, 1 + 7 inside, a blank, 1 + 7 outside
-  EXPECT_EQ(lines[1], " Puz# 1: " + collection);
-  EXPECT_EQ(lines[3] + "|" + lines[12], " INSIDE CLUES:| OUTSIDE CLUES:");
-  EXPECT_EQ(lines[4].substr(0, 5) + lines[19].substr(0, 5), " 01.  07. ");
+  EXPECT_EQ((*readLines(listing))[1], " Puz# 1: " + collection);
 }
 
 TEST(CliOutputs, AnInputIsNeverOverwrittenAndAnExistingListingNeedsForce) {
@@ -192,7 +188,6 @@ TEST(CliOutputs, AnInputIsNeverOverwrittenAndAnExistingListingNeedsForce) {
   const CliRun overInput = cli({"clues", collection, "3", "--output", temp.folder() + "./set.txt"});
   EXPECT_EQ(overInput.status, 1);
   EXPECT_THAT(overInput.err, HasSubstr("is an input of this command"));
-  EXPECT_EQ(cli({"create", "--size", "7", "--dictionary", collection, "--output", collection}).status, 1);
   EXPECT_EQ(TempFolder::contentOf(collection), before);
 
   const std::string listing = temp.file("clues.txt");
@@ -206,31 +201,21 @@ TEST(CliOutputs, AnInputIsNeverOverwrittenAndAnExistingListingNeedsForce) {
 
 TEST(CliCreate, ADictionaryThatCannotMakeTheSizeStopsAtMaxTriesAndAppendsNothing) {
   TempFolder temp;
-  const auto shipped = *readLines(std::string(COMBWISE_BIN_DIR) + "/english3.txt");
-  const std::string head = temp.file("head.txt"), copies = temp.file("copies.txt"), garbage = temp.file("garbage.txt");
-  ASSERT_TRUE(writeLines(head, std::vector(shipped.begin(), shipped.begin() + 300), WriteMode::Truncate));
   std::vector<std::string> repeated;
   for (const char* word : {"TEA", "SEAT", "TEARS", "STREAM"}) repeated.insert(repeated.end(), 100, word);
+  const std::string copies = temp.file("copies.txt"), garbage = temp.file("garbage.txt"), out = temp.file("out.txt");
   ASSERT_TRUE(writeLines(copies, repeated, WriteMode::Truncate));
   std::string bytes;
   for (int i = 0; i < 5000; ++i) bytes += static_cast<char>((i * 7919) % 256);
   ASSERT_TRUE(replaceFileContent(garbage, bytes));
-  const std::string output = temp.file("out.txt"), existing = temp.file("existing.txt");
-  ASSERT_TRUE(replaceFileContent(existing, "kept"));
-  for (const std::string& dictionary : {head, copies, garbage}) {
-    for (const std::string& target : {output, existing}) {
-      const CliRun run =
-          cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", dictionary, "--output", target});
-      EXPECT_EQ(run.status, 1) << dictionary;
-      EXPECT_THAT(run.err, HasSubstr(dictionary)) << run.err;
-    }
-  }
-  const CliRun headRun = cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", head, "--output", output});
-  EXPECT_THAT(headRun.err, HasSubstr("cannot make puzzles of size 7: no puzzle after 40 tries"));
-  EXPECT_FALSE(std::filesystem::exists(output));
-  EXPECT_EQ(TempFolder::contentOf(existing), "kept");
-  EXPECT_THAT(cli({"create", "--size", "7", "--dictionary", garbage, "--output", output}).err,
-              HasSubstr("are not words of 3 to 6 letters A-Z and were skipped"));
+  ASSERT_TRUE(replaceFileContent(out, "kept"));
+  const CliRun run = cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", copies, "--output", out});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_THAT(run.err, HasSubstr(copies + " cannot make puzzles of size 7: no puzzle after 40 tries"));
+  const CliRun skipped = cli({"create", "--size", "7", "--dictionary", garbage, "--output", out});
+  EXPECT_EQ(skipped.status, 1);
+  EXPECT_THAT(skipped.err, HasSubstr("are not words of 3 to 6 letters A-Z and were skipped"));
+  EXPECT_EQ(TempFolder::contentOf(out), "kept");
 }
 
 TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
