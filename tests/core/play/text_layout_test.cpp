@@ -1,4 +1,5 @@
-// Word wrapping, the clue panel, and the browsing rules.
+// Word wrapping, the clue panel, and where the arrows lead (the session's
+// start-up test covers the choice of the collection to start with).
 #include <gtest/gtest.h>
 
 #include "core/files/browsing.h"
@@ -79,14 +80,6 @@ TEST(Browsing, ArrowsWrapAndTheRightButtonJumpsToTheEnds) {
   EXPECT_EQ(arrowTarget(3, 1, 3, 10, none), std::nullopt);
   EXPECT_EQ(arrowTarget(1, 1, 3, 10, [] { return 0.0; }), 1);
   EXPECT_EQ(arrowTarget(1, 1, 3, 10, [] { return 0.99999; }), 10);
-}
-
-TEST(Browsing, StartsWithTheConfiguredCollectionOrTheReadymadeOne) {
-  auto exists = [](const std::string& path) { return path == "mine.txt" || path == "puzzles.txt"; };
-  EXPECT_EQ(startupCollection("mine.txt", exists), "mine.txt");
-  EXPECT_EQ(startupCollection("gone.txt", exists), "puzzles.txt");
-  EXPECT_EQ(startupCollection("", exists), "puzzles.txt");
-  EXPECT_EQ(startupCollection("gone.txt", [](const std::string&) { return false; }), std::nullopt);
 }
 
 }  // namespace
