@@ -147,9 +147,10 @@ TEST(CliArguments, BadArgumentsAndUnreadableFilesAreRefusedWithTheirCauseAndWrit
       {{"check", temp.folder()}, 1, temp.folder() + ": it is a folder"},
       // Ranges the print window refuses exit with its message.
       {{"pdf", set, "2-1", "--output", out}, 2, "Print range not correct"},
-      {{"pdf", set, "3", "--output", out}, 2, "Print range not correct"},
       {{"pdf", set, " ", "--output", out}, 2, "Specify print range"},
+      // An input is never overwritten, also when named another way.
       {{"pdf", set, "1", "--output", set}, 1, "is an input of this command"},
+      {{"clues", set, "1", "--output", temp.folder() + "./set.txt"}, 1, "is an input of this command"},
       {{"create", "--size", "7", "--dictionary", set, "--output", set}, 1, "is an input of this command"},
       {{"pdf", set, "1", "--output", out, "--booklet", "--paper", "A5"}, 2, "A5"},
       {{"pdf", set, "1", "--output", out, "--title", "T"}, 2, "--title"},
@@ -165,7 +166,7 @@ TEST(CliArguments, BadArgumentsAndUnreadableFilesAreRefusedWithTheirCauseAndWrit
   EXPECT_EQ(TempFolder::contentOf(set), before);
 }
 
-TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListing) {
+TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListingAndReplacesItOnlyWithForce) {
   TempFolder temp;
   const std::string collection = made(temp, 7, 2, 3);
   const CliRun shown = cli({"show", collection, "2"});
@@ -179,19 +180,6 @@ TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListing) {
   const std::string listing = temp.file("clues.txt");
   ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}).status, 0);
   EXPECT_EQ((*readLines(listing))[1], " Puz# 1: " + collection);
-}
-
-TEST(CliOutputs, AnInputIsNeverOverwrittenAndAnExistingListingNeedsForce) {
-  TempFolder temp;
-  const std::string collection = made(temp, 7, 3, 4);
-  const std::string before = TempFolder::contentOf(collection);
-  const CliRun overInput = cli({"clues", collection, "3", "--output", temp.folder() + "./set.txt"});
-  EXPECT_EQ(overInput.status, 1);
-  EXPECT_THAT(overInput.err, HasSubstr("is an input of this command"));
-  EXPECT_EQ(TempFolder::contentOf(collection), before);
-
-  const std::string listing = temp.file("clues.txt");
-  ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}).status, 0);
   const CliRun again = cli({"clues", collection, "2", "--output", listing});
   EXPECT_EQ(again.status, 1);
   EXPECT_THAT(again.err, HasSubstr(listing + " exists; give --force to replace it"));
