@@ -11,31 +11,19 @@
 #include <fstream>
 
 #include "core/files/config.h"
-#include "scriptedhost.h"
-#include "support/gamedata.h"
-#include "support/tempfolder.h"
+#include "sessiontest.h"
 
 namespace combwise {
 namespace {
 
 using testing::hoverOn;
 
-class GameSessionTest : public ::testing::Test {
+class GameSessionTest : public testing::SessionTest {
  protected:
-  void SetUp() override {
-    // A small dictionary keeps the start step quick.
-    testing::writeCrLf(home.file("english3.txt"), {"CAT", "DOG", "BIRD", "FISH", "HORSE", "SHEEP", "RABBIT", "DONKEY"});
-    session.startUp();
-  }
-  std::string collection(const std::string& name, std::size_t count, std::size_t from = 0) const {
-    const std::vector<std::string> all = testing::readymadeSevens(from + count);
-    return testing::writeCrLf(home.file(name), {all.begin() + static_cast<long>(from), all.end()});
-  }
+  void SetUp() override { session.startUp(); }
   CommandResult open(const std::string& path) { return host.open(session, path); }
   int number() const { return session.puzzle().PuzzleNumber; }
 
-  TempFolder home;
-  testing::ScriptedHost host;
   GameSession session{home.folder(), host};
 };
 
@@ -83,25 +71,23 @@ TEST_F(GameSessionTest, RecentFilesKeepTheirOrderDropTheOldestAndReportAMissingF
 
 TEST_F(GameSessionTest, StartOpensTheConfiguredPuzzleOrTheReadymadeOnesOrNothing) {
   const std::string ten = collection("ten.txt", 10);
-  auto start = [this](const std::string& path, int n, const std::string& status) {
+  auto startAt = [this](const std::string& path, int n, const std::string& status) {
     auto game = std::make_unique<GameSession>(home.folder(), host);
-    game->startUp();
-    game->setStartCollection(path, n);
-    EXPECT_EQ(game->startStep().status, status) << path << " " << n;
+    EXPECT_EQ(start(*game, path, n).status, status) << path << " " << n;
     return game;
   };
-  auto game = start(ten, 7, "Ready ...");
+  auto game = startAt(ten, 7, "Ready ...");
   EXPECT_EQ(game->puzzle().PuzzleNumber, 7);
   EXPECT_TRUE(game->startedUp());
 
-  game = start(ten, 12, "");  // beyond the count: an empty board
+  game = startAt(ten, 12, "");  // beyond the count: an empty board
   EXPECT_EQ(game->puzzle().PuzzleSize, -1);
   EXPECT_TRUE(game->puzzle().CollectionPath.empty());
   EXPECT_FALSE(game->hasPuzzle());
 
-  EXPECT_EQ(start(home.file("gone.txt"), 3, "")->puzzle().PuzzleNumber, 0);  // no readymade puzzles either
+  EXPECT_EQ(startAt(home.file("gone.txt"), 3, "")->puzzle().PuzzleNumber, 0);  // no readymade puzzles either
   collection("puzzles.txt", 3);  // the readymade ones beside the program open at 1
-  game = start(home.file("gone.txt"), 3, "Ready ...");
+  game = startAt(home.file("gone.txt"), 3, "Ready ...");
   EXPECT_EQ(game->puzzle().CollectionPath, home.file("puzzles.txt"));
   EXPECT_EQ(game->puzzle().PuzzleNumber, 1);
 }

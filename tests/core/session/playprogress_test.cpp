@@ -13,9 +13,7 @@
 #include "core/files/extraoptions.h"
 #include "core/files/progressfile.h"
 #include "core/session/gamesession.h"
-#include "scriptedhost.h"
-#include "support/gamedata.h"
-#include "support/tempfolder.h"
+#include "sessiontest.h"
 
 namespace combwise {
 namespace {
@@ -23,28 +21,20 @@ namespace {
 using std::chrono::milliseconds;
 using testing::hoverOn;
 
-class PlayProgressTest : public ::testing::Test {
+class PlayProgressTest : public testing::SessionTest {
  protected:
-  void SetUp() override {
-    testing::writeCrLf(home.file("english3.txt"), {"CAT", "DOG", "BIRD", "FISH", "HORSE", "SHEEP"});
-  }
-
   // A new run of the program at puzzle n of the collection, with a clock
   // the test moves.
   std::unique_ptr<GameSession> run(int n, CommandResult* started = nullptr) {
     auto session = std::make_unique<GameSession>(home.folder(), host);
     session->setClock([this] { return now; });
-    CommandResult result = session->startUp();
-    session->setStartCollection(path, n);
-    result.add(session->startStep());
+    const CommandResult result = start(*session, path, n);
     if (started) *started = result;
     return session;
   }
   static std::string at(const GameSession& session, int row, int col) { return session.puzzle().Entries.at(row, col); }
 
-  TempFolder home;
-  testing::ScriptedHost host;
-  std::string path = testing::writeCrLf(home.file("ten.txt"), testing::readymadeSevens(10));
+  std::string path = collection("ten.txt", 10);
   milliseconds now{1'000'000};
 };
 

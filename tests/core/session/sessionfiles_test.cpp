@@ -13,9 +13,7 @@
 #include "core/files/config.h"
 #include "core/files/programfiles.h"
 #include "core/session/gamesession.h"
-#include "scriptedhost.h"
-#include "support/gamedata.h"
-#include "support/tempfolder.h"
+#include "sessiontest.h"
 
 namespace combwise {
 namespace {
@@ -32,7 +30,7 @@ std::vector<std::string> namesIn(const std::string& folder) {
 
 // A program folder with the game's word data, either as a build leaves it
 // or installed where it cannot be written, with the user's folders beside.
-class SessionFilesTest : public ::testing::Test {
+class SessionFilesTest : public testing::SessionTest {
  protected:
   void SetUp() override {
     std::filesystem::create_directories(program);
@@ -40,31 +38,22 @@ class SessionFilesTest : public ::testing::Test {
       std::filesystem::copy_file(testing::gameDataPath(name), program + name);
   }
   ProgramFiles installed() const {
-    return ProgramFiles(program, {root.file("cfg") + "/", root.file("data") + "/"}, false);
+    return ProgramFiles(program, {home.file("cfg") + "/", home.file("data") + "/"}, false);
   }
 
-  // The game in the program folder, started at puzzle 1 of `path`.
-  CommandResult start(GameSession& session, const std::string& path) {
-    session.startUp();
-    session.setStartCollection(path, 1);
-    return session.startStep();
-  }
-
-  TempFolder root;
-  std::string program = root.file("program") + "/";
-  testing::ScriptedHost host;
+  std::string program = home.file("program") + "/";
 };
 
 TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) {
-  const std::string collection = testing::writeCrLf(root.file("ten.txt"), testing::readymadeSevens(10));
+  const std::string set = collection("ten.txt", 10);
   const std::vector<std::string> programBefore = namesIn(program);
   {
     // The user's own settings are read rather than the program folder's.
     Settings own;
-    own.collectionPath = collection;
+    own.collectionPath = set;
     own.PuzzleNumber = 4;
-    std::filesystem::create_directories(root.file("cfg"));
-    ASSERT_TRUE(SavecfgFile(root.file("cfg") + "/", own).ok());
+    std::filesystem::create_directories(home.file("cfg"));
+    ASSERT_TRUE(SavecfgFile(home.file("cfg") + "/", own).ok());
     Settings other;
     other.PuzzleNumber = 9;
     ASSERT_TRUE(SavecfgFile(program, other).ok());
@@ -77,16 +66,16 @@ TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) 
   session.arrow(2, 1);
   EXPECT_TRUE(session.exit().close);
   Settings saved;
-  ReadcfgFile(root.file("cfg") + "/", program, saved);
+  ReadcfgFile(home.file("cfg") + "/", program, saved);
   EXPECT_EQ(saved.PuzzleNumber, 5);
   EXPECT_EQ(saved.dictionaryPath, program + kDefaultDictionaryFile);
 
   // A created puzzle passes through the user's data folder, and the save
   // dialog starts there.
   EXPECT_EQ(session.create().status, "Puzzle created ...");
-  EXPECT_TRUE(std::filesystem::is_regular_file(root.file("data") + "/" + kTemporaryPuzzleFile));
+  EXPECT_TRUE(std::filesystem::is_regular_file(home.file("data") + "/" + kTemporaryPuzzleFile));
   session.savePuzzle();
-  EXPECT_EQ(host.questions.back().defaultDir, root.file("data") + "/");
+  EXPECT_EQ(host.questions.back().defaultDir, home.file("data") + "/");
 
   std::filesystem::remove(program + kConfigFile);
   EXPECT_EQ(namesIn(program), programBefore);
@@ -94,17 +83,17 @@ TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) 
 
 TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
   const std::vector<std::string> lines = testing::readymadeSevens(3);
-  const std::string collection = testing::writeCrLf(root.file("three.txt"), lines);
+  const std::string set = testing::writeCrLf(home.file("three.txt"), lines);
   GameSession session(installed(), host);
   session.startUp();
-  host.open(session, collection);
+  host.open(session, set);
   session.arrow(2, 1);
   const PuzzleState before = session.puzzle();
   const int sizeBefore = session.board().size();
   ASSERT_EQ(before.PuzzleNumber, 2);
 
   // The temporary puzzle cannot be written where a folder stands in its way.
-  std::filesystem::create_directories(root.file("data") + "/" + kTemporaryPuzzleFile);
+  std::filesystem::create_directories(home.file("data") + "/" + kTemporaryPuzzleFile);
   session.nextSize();  // a size other than the shown one
   const CommandResult failed = session.create();
   ASSERT_EQ(failed.messages.size(), 1u);
@@ -118,11 +107,11 @@ TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
   EXPECT_EQ(after.ClueTexts, before.ClueTexts);
   EXPECT_EQ(after.PuzzleNumber, 2);
   EXPECT_EQ(after.PuzzleCount, 3);
-  EXPECT_EQ(after.CollectionPath, collection);
+  EXPECT_EQ(after.CollectionPath, set);
 
-  host.files.push_back(root.file("saved.txt"));
+  host.files.push_back(home.file("saved.txt"));
   session.savePuzzle();
-  EXPECT_EQ(TempFolder::contentOf(root.file("saved.txt")), lines[1] + "\r\n");
+  EXPECT_EQ(TempFolder::contentOf(home.file("saved.txt")), lines[1] + "\r\n");
 }
 
 TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
@@ -130,7 +119,7 @@ TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
   GameSession session(program, host);
   session.startUp();
 
-  const std::string damaged = testing::writeCrLf(root.file("damaged.txt"), {good[0], "7;ABC;NOCOMMA;", good[2]});
+  const std::string damaged = testing::writeCrLf(home.file("damaged.txt"), {good[0], "7;ABC;NOCOMMA;", good[2]});
   host.open(session, damaged);
   const CommandResult next = session.arrow(2, 1);
   EXPECT_EQ(next.status, "Error reading puzzle");
@@ -139,7 +128,7 @@ TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
   EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");
   EXPECT_EQ(session.puzzle().PuzzleNumber, 3);
 
-  const std::string pipe = root.file("pipe.txt");
+  const std::string pipe = home.file("pipe.txt");
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
   const CommandResult piped = host.open(session, pipe);
   EXPECT_EQ(piped.status, "Error loading puzzle file");
@@ -152,29 +141,31 @@ TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
   EXPECT_THAT(recent.messages[0].text, HasSubstr("not a regular file"));
 
   // A collection that cannot be read leaves the one shown before.
-  EXPECT_EQ(host.open(session, testing::writeCrLf(root.file("bad.txt"), {"7;ABC;NOCOMMA;"})).status,
+  EXPECT_EQ(host.open(session, testing::writeCrLf(home.file("bad.txt"), {"7;ABC;NOCOMMA;"})).status,
             "Error loading puzzle file");
-  EXPECT_EQ(host.open(session, testing::writeCrLf(root.file("empty.txt"), {})).status, "No puzzles in empty.txt");
+  EXPECT_EQ(host.open(session, testing::writeCrLf(home.file("empty.txt"), {})).status, "No puzzles in empty.txt");
   EXPECT_EQ(session.puzzle().CollectionPath, damaged);
   EXPECT_EQ(session.puzzle().PuzzleCount, 3);
 }
 
 TEST_F(SessionFilesTest, ADamagedFirstPuzzleAtStartKeepsTheCollectionReachable) {
   const std::vector<std::string> good = testing::readymadeSevens(3);
-  const std::string collection = testing::writeCrLf(root.file("c.txt"), {std::string(3000, '\x01'), good[1], good[2]});
+  const std::string set = testing::writeCrLf(home.file("c.txt"), {std::string(3000, '\x01'), good[1], good[2]});
   GameSession session(program, host);
-  const CommandResult started = start(session, collection);
+  const CommandResult started = start(session, set);
   EXPECT_EQ(started.status, "Error reading puzzle");
-  EXPECT_THAT(*started.statusTip, HasSubstr(collection + ", line 1: "));
+  EXPECT_THAT(*started.statusTip, HasSubstr(set + ", line 1: "));
   EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");
   EXPECT_EQ(session.puzzle().PuzzleNumber, 2);
 }
 
 TEST_F(SessionFilesTest, AMissingMeaningsFileIsToldOnceWhenFirstNeeded) {
   std::filesystem::remove(program + kMeaningsFile);
-  const std::string collection = testing::writeCrLf(root.file("three.txt"), testing::readymadeSevens(3));
+  const std::string set = collection("three.txt", 3);
   GameSession session(program, host);
-  const CommandResult started = start(session, collection);
+  session.startUp();  // no scheme file beside the program: a notice of its own
+  session.setStartCollection(set, 1);
+  const CommandResult started = session.startStep();
   ASSERT_EQ(started.messages.size(), 1u);
   EXPECT_THAT(started.messages[0].text, HasSubstr(program + kMeaningsFile));
   EXPECT_THAT(started.messages[0].text, HasSubstr("No such file or directory"));

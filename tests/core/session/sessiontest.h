@@ -1,7 +1,9 @@
-// The window as the session's tests play it: questions and file dialogs
-// answered from scripts, everything told kept, and a hook that runs
-// whenever the session lets events run.
+// What the session's tests share: the window as they play it (questions and
+// file dialogs answered from scripts, everything told kept, a hook that runs
+// whenever the session lets events run) and a scratch home folder.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <deque>
 #include <fstream>
@@ -10,6 +12,8 @@
 #include <vector>
 
 #include "core/session/gamesession.h"
+#include "support/gamedata.h"
+#include "support/tempfolder.h"
 
 namespace combwise::testing {
 
@@ -69,5 +73,27 @@ inline CommandResult hoverOn(GameSession& session, int row, int col) {
   return session.hover(layout.cellX(row, col) + layout.CellWidth / 2.0,
                        layout.cellY(row, col) + layout.CellHeight / 2.0);
 }
+
+// A home folder with a small dictionary, which keeps the start step quick.
+class SessionTest : public ::testing::Test {
+ protected:
+  SessionTest() { writeCrLf(home.file("english3.txt"), {"CAT", "DOG", "BIRD", "FISH", "HORSE", "SHEEP", "RABBIT"}); }
+
+  // `count` readymade puzzles of size 7 from number `from` + 1, as `name` in the home folder.
+  std::string collection(const std::string& name, std::size_t count, std::size_t from = 0) const {
+    const std::vector<std::string> all = readymadeSevens(from + count);
+    return writeCrLf(home.file(name), {all.begin() + static_cast<long>(from), all.end()});
+  }
+  // Starts `session` at puzzle n of `path`, as the window does.
+  static CommandResult start(GameSession& session, const std::string& path, int n = 1) {
+    CommandResult result = session.startUp();
+    session.setStartCollection(path, n);
+    result.add(session.startStep());
+    return result;
+  }
+
+  TempFolder home;
+  ScriptedHost host;
+};
 
 }  // namespace combwise::testing
