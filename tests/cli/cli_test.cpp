@@ -11,7 +11,6 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <sstream>
 
 #include "core/files/config.h"
@@ -24,6 +23,7 @@ namespace combwise::cli {
 namespace {
 
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 struct CliRun {
   int status = 0;
@@ -38,6 +38,66 @@ CliRun cli(std::vector<std::string> args, const std::string& home = COMBWISE_BIN
   const int status = runCli(args, out, err);
   return {status, out.str(), err.str()};
 }
+
+// A collection the tool makes in `temp`.
+std::string made(const TempFolder& temp, int size, int count, int seed, const std::string& home = COMBWISE_BIN_DIR) {
+  const std::string path = temp.file("set.txt");
+  const std::vector<std::string> args{"create",
+                                      "--size",
+                                      std::to_string(size),
+                                      "--count",
+                                      std::to_string(count),
+                                      "--seed",
+                                      std::to_string(seed),
+                                      "--distinct",
+                                      "--output",
+                                      path};
+  EXPECT_EQ(cli(args, home).status, 0);
+  return path;
+}
+
+// The game's word data copied into `home`, as a program folder holds it.
+void copyWordData(const TempFolder& home) {
+  for (const char* name : {"english3.txt", "mean3456.txt"})
+    std::filesystem::copy_file(std::string(COMBWISE_BIN_DIR) + "/" + name, home.file(name));
+}
+
+long filesIn(const std::string& folder) {
+  return static_cast<long>(std::distance(std::filesystem::directory_iterator(folder), {}));
+}
+
+struct ShellRun {
+  int status = -1;
+  std::string output;  // standard output and error together
+};
+
+ShellRun shell(const std::string& command) {
+  ShellRun run;
+  FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+  if (!pipe) return run;
+  char buffer[4096];
+  while (fgets(buffer, sizeof buffer, pipe)) run.output += buffer;
+  const int status = pclose(pipe);
+  run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return run;
+}
+
+// The built tool in a process of its own, under a deadline, so that
+// whatever it prints (Qt's warnings too) is seen. `prefix` goes before it
+// on the command line (another user, for instance).
+ShellRun tool(const std::vector<std::string>& args, const std::string& prefix = {}) {
+  std::string command = prefix + "timeout 30 '" COMBWISE_BIN_DIR "/combwise-cli' --home '" COMBWISE_BIN_DIR "'";
+  for (const auto& arg : args) command += " '" + arg + "'";
+  return shell(command);
+}
+
+// A PDF read back with poppler's tools.
+int pages(const std::string& pdf) {
+  const std::string info = shell("pdfinfo '" + pdf + "'").output;
+  const auto at = info.find("Pages:");
+  return at == std::string::npos ? 0 : std::stoi(info.substr(at + 6));
+}
+std::string textOf(const std::string& pdf) { return shell("pdftotext -layout '" + pdf + "' -").output; }
 
 TEST(CliCreate, ASeedGivesTheSameFileWhateverTheJobsAndRunsAppend) {
   TempFolder temp;
@@ -60,80 +120,66 @@ TEST(CliCreate, ASeedGivesTheSameFileWhateverTheJobsAndRunsAppend) {
   EXPECT_EQ(cli({"check", one}).status, 0);
 }
 
-TEST(CliCreate, BadArgumentsAndUnreadableFilesAreRefusedClearly) {
+TEST(CliArguments, BadArgumentsAndUnreadableFilesAreRefusedWithTheirCauseAndWriteNothing) {
   TempFolder temp;
-  const std::string out = temp.file("x.txt");
-  const CliRun noOutput = cli({"create", "--size", "7"});
-  EXPECT_EQ(noOutput.status, 2);
-  EXPECT_THAT(noOutput.err, HasSubstr("--output is required"));
-  EXPECT_EQ(cli({"create", "--size", "9", "--output", out}).status, 2);
-  EXPECT_EQ(cli({"create", "--size", "7", "--count", "0", "--output", out}).status, 2);
-  EXPECT_EQ(cli({"create", "--size", "7", "--colour", "red", "--output", out}).status, 2);
-  const CliRun noDictionary = cli({"create", "--size", "7", "--dictionary", temp.file("none.txt"), "--output", out});
-  EXPECT_EQ(noDictionary.status, 1);
-  EXPECT_THAT(noDictionary.err, HasSubstr("none.txt"));
-  const CliRun refused = cli({"create", "--size", "22", "--dictionary", temp.file("ENGLISH2.TXT"), "--output", out});
-  EXPECT_EQ(refused.status, 1);
-  EXPECT_THAT(refused.err, HasSubstr("english1/2"));
-  EXPECT_FALSE(std::filesystem::exists(out));
-  EXPECT_EQ(cli({"frobnicate"}).status, 2);
+  const std::string set = made(temp, 7, 2, 3), out = temp.file("x.pdf"), none = temp.file("none.txt");
+  const std::string before = TempFolder::contentOf(set);
+  struct Case {
+    std::vector<std::string> args;
+    int status;
+    std::string said;
+    std::string home = COMBWISE_BIN_DIR;
+  };
+  const Case cases[] = {
+      {{"create", "--size", "7"}, 2, "--output is required"},
+      {{"create", "--size", "9", "--output", out}, 2, "--size"},
+      {{"create", "--size", "7", "--count", "0", "--output", out}, 2, "--count"},
+      {{"create", "--size", "7", "--output", ""}, 2, "--output needs a value"},
+      {{"create", "--size", "7", "--dictionary", none, "--output", out}, 1, none},
+      {{"create", "--size", "22", "--dictionary", temp.file("ENGLISH2.TXT"), "--output", out}, 1, "english1/2"},
+      {{"frobnicate"}, 2, "frobnicate"},
+      {{"--frobnicate", "show"}, 2, "unknown option '--frobnicate'"},
+      {{"--home", "b", "show", set}, 2, "--home is given more than once"},
+      {{"show", set}, 2, "", ""},
+      {{"show", ""}, 2, "an empty argument names no file"},
+      {{"show", set, "900"}, 1, set + ": there is no puzzle 900: N must be from 1 to 2, or -1 for the last"},
+      {{"show", none}, 1, "combwise-cli show: Cannot open " + none + ": No such file or directory\n"},
+      {{"check", temp.folder()}, 1, temp.folder() + ": it is a folder"},
+      // Ranges the print window refuses exit with its message.
+      {{"pdf", set, "2-1", "--output", out}, 2, "Print range not correct"},
+      {{"pdf", set, " ", "--output", out}, 2, "Specify print range"},
+      // An input is never overwritten, also when named another way.
+      {{"pdf", set, "1", "--output", set}, 1, "is an input of this command"},
+      {{"clues", set, "1", "--output", temp.folder() + "./set.txt"}, 1, "is an input of this command"},
+      {{"create", "--size", "7", "--dictionary", set, "--output", set}, 1, "is an input of this command"},
+      {{"pdf", set, "1", "--output", out, "--booklet", "--paper", "A5"}, 2, "A5"},
+      {{"pdf", set, "1", "--output", out, "--title", "T"}, 2, "--title"},
+  };
+  for (const Case& c : cases) {
+    const CliRun run = cli(c.args, c.home);
+    SCOPED_TRACE(c.args.front() + " " + c.args.back());
+    EXPECT_EQ(run.status, c.status);
+    EXPECT_THAT(run.err, HasSubstr(c.said));
+  }
   EXPECT_EQ(cli({"show", "--help"}).status, 0);
-  const CliRun unknownOption = cli({"--frobnicate", "show"});
-  EXPECT_EQ(unknownOption.status, 2);
-  EXPECT_THAT(unknownOption.err, HasSubstr("unknown option '--frobnicate'"));
+  EXPECT_EQ(filesIn(temp.folder()), 1);
+  EXPECT_EQ(TempFolder::contentOf(set), before);
 }
 
-TEST(CliShowAndClues, ShowDrawsThePuzzleCluesWritesTheListingAndBadArgumentsAreSaid) {
+TEST(CliShowAndClues, ShowDrawsThePuzzleAndCluesWritesTheListingAndReplacesItOnlyWithForce) {
   TempFolder temp;
-  const std::string collection = temp.file("set.txt");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "2", "--seed", "3", "--output", collection}).status, 0);
-
+  const std::string collection = made(temp, 7, 2, 3);
   const CliRun shown = cli({"show", collection, "2"});
   EXPECT_EQ(shown.status, 0);
   EXPECT_TRUE(shown.out.starts_with("set.txt  p# 2 of 2")) << shown.out;  // the file's name, not its path
   // The centre hexagon's number stands on its top edge; blanks are the cells to fill.
   EXPECT_THAT(shown.out, ::testing::AllOf(HasSubstr("+---+04-+---+"), HasSubstr(" _ "), HasSubstr("  07. ")));
-  EXPECT_THAT(cli({"show", collection, "-1", "--solution"}).out, ::testing::Not(HasSubstr(" _ ")));
-  EXPECT_EQ(cli({"show", collection, "3"}).status, 1);
-  EXPECT_EQ(cli({"show", collection, "zero"}).status, 2);
-  // Empty homes and paths, repeated options and numbers beyond the count are said.
-  EXPECT_EQ(cli({"show", collection}, "").status, 2);
-  std::ostringstream out, err;
-  EXPECT_EQ(runCli({"--home", "a", "--home", "b", "show", collection}, out, err), 2);
-  EXPECT_THAT(err.str(), HasSubstr("--home is given more than once"));
-  EXPECT_THAT(cli({"show", ""}).err, HasSubstr("an empty argument names no file"));
-  EXPECT_THAT(cli({"create", "--size", "7", "--size", "10", "--output", collection}).err,
-              HasSubstr("--size is given more than once"));
-  EXPECT_THAT(cli({"create", "--size", "7", "--output", ""}).err, HasSubstr("--output needs a value"));
-  EXPECT_THAT(cli({"show", collection, "900"}).err,
-              HasSubstr(collection + ": there is no puzzle 900: N must be from 1 to 2, or -1 for the last"));
-  const CliRun missing = cli({"show", temp.file("none.txt")});
-  EXPECT_EQ(missing.err, "combwise-cli show: Cannot open " + temp.file("none.txt") + ": No such file or directory\n");
-  EXPECT_THAT(cli({"check", temp.folder()}).err, HasSubstr(temp.folder() + ": it is a folder"));
+  EXPECT_THAT(cli({"show", collection, "-1", "--solution"}).out, Not(HasSubstr(" _ ")));
 
+  // The listing's layout is the clue listing's own test.
   const std::string listing = temp.file("clues.txt");
   ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}).status, 0);
-  const auto lines = *readLines(listing);
-  ASSERT_EQ(lines.size(), 20u);  // two banner lines, a blank, 1 + 7 inside, a blank, 1 + 7 outside
-  EXPECT_EQ(lines[1], " Puz# 1: " + collection);
-  EXPECT_EQ(lines[3] + "|" + lines[12], " INSIDE CLUES:| OUTSIDE CLUES:");
-  EXPECT_EQ(lines[4].substr(0, 5) + lines[19].substr(0, 5), " 01.  07. ");
-}
-
-TEST(CliOutputs, AnInputIsNeverOverwrittenAndAnExistingListingNeedsForce) {
-  TempFolder temp;
-  const std::string collection = temp.file("mine.txt");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "3", "--seed", "4", "--output", collection}).status, 0);
-  const std::string before = TempFolder::contentOf(collection);
-  const CliRun overInput = cli({"clues", collection, "3", "--output", temp.folder() + "./mine.txt"});
-  EXPECT_EQ(overInput.status, 1);
-  EXPECT_THAT(overInput.err, HasSubstr("is an input of this command"));
-  const CliRun intoDictionary = cli({"create", "--size", "7", "--dictionary", collection, "--output", collection});
-  EXPECT_EQ(intoDictionary.status, 1);
-  EXPECT_EQ(TempFolder::contentOf(collection), before);
-
-  const std::string listing = temp.file("clues.txt");
-  ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}).status, 0);
+  EXPECT_EQ((*readLines(listing))[1], " Puz# 1: " + collection);
   const CliRun again = cli({"clues", collection, "2", "--output", listing});
   EXPECT_EQ(again.status, 1);
   EXPECT_THAT(again.err, HasSubstr(listing + " exists; give --force to replace it"));
@@ -143,38 +189,26 @@ TEST(CliOutputs, AnInputIsNeverOverwrittenAndAnExistingListingNeedsForce) {
 
 TEST(CliCreate, ADictionaryThatCannotMakeTheSizeStopsAtMaxTriesAndAppendsNothing) {
   TempFolder temp;
-  const auto shipped = *readLines(std::string(COMBWISE_BIN_DIR) + "/english3.txt");
-  const std::string head = temp.file("head.txt"), copies = temp.file("copies.txt"), garbage = temp.file("garbage.txt");
-  ASSERT_TRUE(writeLines(head, std::vector(shipped.begin(), shipped.begin() + 300), WriteMode::Truncate));
   std::vector<std::string> repeated;
   for (const char* word : {"TEA", "SEAT", "TEARS", "STREAM"}) repeated.insert(repeated.end(), 100, word);
+  const std::string copies = temp.file("copies.txt"), garbage = temp.file("garbage.txt"), out = temp.file("out.txt");
   ASSERT_TRUE(writeLines(copies, repeated, WriteMode::Truncate));
   std::string bytes;
   for (int i = 0; i < 5000; ++i) bytes += static_cast<char>((i * 7919) % 256);
   ASSERT_TRUE(replaceFileContent(garbage, bytes));
-  const std::string output = temp.file("out.txt"), existing = temp.file("existing.txt");
-  ASSERT_TRUE(replaceFileContent(existing, "kept"));
-  for (const std::string& dictionary : {head, copies, garbage}) {
-    for (const std::string& target : {output, existing}) {
-      const CliRun run =
-          cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", dictionary, "--output", target});
-      EXPECT_EQ(run.status, 1) << dictionary;
-      EXPECT_THAT(run.err, HasSubstr(dictionary)) << run.err;
-    }
-  }
-  const CliRun headRun = cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", head, "--output", output});
-  EXPECT_THAT(headRun.err, HasSubstr("cannot make puzzles of size 7: no puzzle after 40 tries"));
-  EXPECT_FALSE(std::filesystem::exists(output));
-  EXPECT_EQ(TempFolder::contentOf(existing), "kept");
-  EXPECT_THAT(cli({"create", "--size", "7", "--dictionary", garbage, "--output", output}).err,
-              HasSubstr("are not words of 3 to 6 letters A-Z and were skipped"));
+  ASSERT_TRUE(replaceFileContent(out, "kept"));
+  const CliRun run = cli({"create", "--size", "7", "--max-tries", "40", "--dictionary", copies, "--output", out});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_THAT(run.err, HasSubstr(copies + " cannot make puzzles of size 7: no puzzle after 40 tries"));
+  const CliRun skipped = cli({"create", "--size", "7", "--dictionary", garbage, "--output", out});
+  EXPECT_EQ(skipped.status, 1);
+  EXPECT_THAT(skipped.err, HasSubstr("are not words of 3 to 6 letters A-Z and were skipped"));
+  EXPECT_EQ(TempFolder::contentOf(out), "kept");
 }
 
 TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
   TempFolder temp;
-  const std::string collection = temp.file("set.txt");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "1", "--seed", "5", "--distinct", "--output", collection}).status,
-            0);
+  const std::string collection = made(temp, 7, 1, 5);
   std::string good = (*readLines(collection))[0];
   std::string swapped = good;
   const auto letter = swapped.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
@@ -185,7 +219,7 @@ TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
 
   const CliRun checked = cli({"check", collection});
   EXPECT_EQ(checked.status, 1);
-  EXPECT_THAT(checked.out, ::testing::Not(HasSubstr(collection + ":1:")));
+  EXPECT_THAT(checked.out, Not(HasSubstr(collection + ":1:")));
   for (const char* line : {":2: hexagon", ":3: blank line", ":4: word field 1 has no \",\"", ":5: slot 14: QQQ"})
     EXPECT_THAT(checked.out, HasSubstr(collection + line));
   EXPECT_THAT(checked.out, HasSubstr("5 puzzles checked, 4 have problems"));
@@ -196,11 +230,9 @@ TEST(CliCheck, ReportsEveryBrokenLineByNumber) {
 
 TEST(CliCheck, AnUnfitDictionaryOrMeaningsFileIsReportedOnce) {
   TempFolder temp;
-  const std::string collection = temp.file("set.txt");
   // Distinct, so that check has nothing to say of the puzzles themselves
   // whatever words the dictionary holds.
-  ASSERT_EQ(cli({"create", "--size", "10", "--count", "3", "--seed", "2", "--distinct", "--output", collection}).status,
-            0);
+  const std::string collection = made(temp, 10, 3, 2);
   const std::string sevens = temp.file("sevens.txt");
   ASSERT_TRUE(writeLines(sevens, {"SEVENTH", "LETTERS"}, WriteMode::Truncate));
   ASSERT_TRUE(writeLines(temp.file("mean3456.txt"), {"ZOO:a park", "TEA:a drink"}, WriteMode::Truncate));
@@ -218,8 +250,7 @@ TEST(CliCollections, RandomizeWritesBesideAndBatchAppendsToTheProgramFoldersFile
   EXPECT_EQ(countLines(temp.file("set-noduprandom.txt")), 3);
 
   // The batch reads the program folder's own dictionary and meanings.
-  for (const char* name : {"english3.txt", "mean3456.txt"})
-    std::filesystem::copy_file(std::string(COMBWISE_BIN_DIR) + "/" + name, temp.file(name));
+  copyWordData(temp);
   for (int round = 1; round <= 2; ++round) {
     const CliRun batch = cli({"batch", "--count", "3", "--seed", "9"}, temp.folder());
     EXPECT_EQ(batch.status, 0);
@@ -230,74 +261,37 @@ TEST(CliCollections, RandomizeWritesBesideAndBatchAppendsToTheProgramFoldersFile
   EXPECT_EQ(made[0].substr(0, 3), "17;");
 }
 
-std::string commandOutput(const std::string& command) {
-  std::string text;
-  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-  char buffer[4096];
-  while (pipe && fgets(buffer, sizeof buffer, pipe.get())) text += buffer;
-  return text;
-}
-
-// The pdf command's pages, read back with poppler's tools.
-int pages(const std::string& pdf) {
-  const std::string info = commandOutput("pdfinfo '" + pdf + "'");
-  const auto at = info.find("Pages:");
-  return at == std::string::npos ? 0 : std::stoi(info.substr(at + 6));
-}
-
-TEST(CliPdf, ARangePrintsOnePageAPuzzleStoppingAtTheEndCluesAddAPageAndBadRangesAreRefused) {
+TEST(CliPdf, ARangePrintsOnePageAPuzzleStoppingAtTheEndAndCluesAddAPage) {
   TempFolder temp;
-  const std::string collection = temp.file("set.txt");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "3", "--seed", "5", "--output", collection}).status, 0);
-
+  const std::string collection = made(temp, 7, 3, 5);
   const std::string pdf = temp.file("two.pdf");
   const CliRun two = cli({"pdf", collection, "2-9", "--output", pdf});
   EXPECT_EQ(two.status, 0) << two.err;
   EXPECT_THAT(two.out, HasSubstr("2 puzzles printed"));
   EXPECT_EQ(pages(pdf), 2);
-  const std::string text = commandOutput("pdftotext '" + pdf + "' -");
-  EXPECT_THAT(text, HasSubstr("Combwise Puzzle ...hexagonal crosswords - Puz# 2:" + collection));
-  EXPECT_THAT(text, HasSubstr("- Puz# 3:"));
+  EXPECT_THAT(shell("pdftotext '" + pdf + "' -").output,
+              ::testing::AllOf(HasSubstr("Combwise Puzzle ...hexagonal crosswords - Puz# 2:" + collection),
+                               HasSubstr("- Puz# 3:")));
 
-  const std::string withClues = temp.file("clues.pdf");
-  EXPECT_EQ(cli({"pdf", collection, "all", "--output", withClues, "--clues"}).status, 0);
-  EXPECT_EQ(pages(withClues), 6);
-  EXPECT_THAT(commandOutput("pdftotext '" + withClues + "' -"), HasSubstr("OUTSIDE CLUES:"));
-  EXPECT_EQ(cli({"pdf", collection, "3", "--output", pdf}).status, 0);
-  EXPECT_EQ(pages(pdf), 1);
-
-  // Ranges the print window refuses exit with its message.
-  const std::string none = temp.file("none.pdf");
-  for (const char* range : {"5-2", "0-3", "4", "4-9"}) {
-    const CliRun refused = cli({"pdf", collection, range, "--output", none});
-    EXPECT_EQ(refused.status, 2) << range;
-    EXPECT_THAT(refused.err, HasSubstr("Print range not correct")) << range;
-  }
-  EXPECT_THAT(cli({"pdf", collection, " ", "--output", none}).err, HasSubstr("Specify print range"));
-  EXPECT_EQ(cli({"pdf", collection, "1"}).status, 2);  // no --output
-  EXPECT_EQ(cli({"pdf", collection, "1", "--output", collection}).status, 1);
-  EXPECT_FALSE(std::filesystem::exists(none));
+  EXPECT_EQ(cli({"pdf", collection, "all", "--output", pdf, "--clues"}).status, 0);
+  EXPECT_EQ(pages(pdf), 6);
+  EXPECT_THAT(textOf(pdf), HasSubstr("OUTSIDE CLUES:"));
 }
 
 TEST(CliPdf, ABookletHasAPagePerPuzzleThenItsKeysOnTheChosenPaper) {
   TempFolder temp;
-  const std::string collection = temp.file("set.txt");
-  ASSERT_EQ(cli({"create", "--size", "10", "--count", "3", "--seed", "8", "--output", collection}).status, 0);
+  const std::string collection = made(temp, 10, 3, 8);
   for (const auto& [paper, size] : {std::pair{"Letter", "612 x 792 pts (letter)"}, std::pair{"A4", "(A4)"}}) {
     const std::string pdf = temp.file(std::string("booklet-") + paper + ".pdf");
     const CliRun run =
         cli({"pdf", collection, "all", "--output", pdf, "--booklet", "--title", "Class 4b", "--paper", paper});
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(pages(pdf), 3 + 1) << paper;
-    EXPECT_THAT(commandOutput("pdfinfo '" + pdf + "'"), HasSubstr(size));
-    const std::string text = commandOutput("pdftotext '" + pdf + "' -");
+    EXPECT_THAT(shell("pdfinfo '" + pdf + "'").output, HasSubstr(size));
+    const std::string text = textOf(pdf);
     for (const char* expected : {"Class 4b", "Puzzle 3", "Inside clues", "Outside clues", "Answers", "Page 4 of 4"})
       EXPECT_THAT(text, HasSubstr(expected)) << paper;
   }
-  const std::string none = temp.file("none.pdf");
-  EXPECT_EQ(cli({"pdf", collection, "1", "--output", none, "--booklet", "--paper", "A5"}).status, 2);
-  EXPECT_EQ(cli({"pdf", collection, "1", "--output", none, "--title", "T"}).status, 2);
-  EXPECT_FALSE(std::filesystem::exists(none));
 }
 
 // Words only, so a clue wrapped over lines on paper compares with its
@@ -311,15 +305,12 @@ std::string wordsOf(const std::string& text) {
 
 TEST(CliPdf, ALargeFontListingOfTheBiggestPuzzleKeepsEveryClueOnA4AndLetter) {
   TempFolder home;
-  for (const char* name : {"english3.txt", "mean3456.txt"})
-    std::filesystem::copy_file(std::string(COMBWISE_BIN_DIR) + "/" + name, home.file(name));
+  copyWordData(home);
   Settings settings;
   settings.boardFontName = "DejaVu Sans";
   settings.BoardFontSize = 14;
   ASSERT_TRUE(SavecfgFile(home.folder(), settings).ok());
-  const std::string collection = home.file("big.txt");
-  ASSERT_EQ(
-      cli({"create", "--size", "22", "--count", "1", "--seed", "3", "--output", collection}, home.folder()).status, 0);
+  const std::string collection = made(home, 22, 1, 3, home.folder());
   const std::string listing = home.file("clues.txt");
   ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}, home.folder()).status, 0);
   const auto lines = *readLines(listing);
@@ -331,7 +322,7 @@ TEST(CliPdf, ALargeFontListingOfTheBiggestPuzzleKeepsEveryClueOnA4AndLetter) {
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_GE(pages(pdf), 3) << paper << ": the listing takes more than one page";
     // pdftotext drops text that lies below the paper's edge.
-    const std::string printed = wordsOf(commandOutput("pdftotext -layout '" + pdf + "' -"));
+    const std::string printed = wordsOf(textOf(pdf));
     for (const std::string& line : lines) {
       if (line.find(". ") != 3) continue;  // the clue entries: " 01. clue"
       EXPECT_THAT(printed, HasSubstr(wordsOf(line))) << paper;
@@ -339,35 +330,9 @@ TEST(CliPdf, ALargeFontListingOfTheBiggestPuzzleKeepsEveryClueOnA4AndLetter) {
   }
 }
 
-struct ToolRun {
-  int status = -1;
-  std::string output;  // standard output and error together
-};
-
-// Runs the built tool in a process of its own, under a deadline, so that
-// whatever it prints (Qt's warnings too) is seen. `prefix` goes before it
-// on the command line (another user, for instance).
-ToolRun tool(const std::vector<std::string>& args, const std::string& prefix = {}) {
-  std::string command = prefix + "timeout 30 '" COMBWISE_BIN_DIR "/combwise-cli' --home '" COMBWISE_BIN_DIR "'";
-  for (const auto& arg : args) command += " '" + arg + "'";
-  ToolRun run;
-  FILE* pipe = popen((command + " 2>&1").c_str(), "r");
-  if (!pipe) return run;
-  char buffer[4096];
-  while (fgets(buffer, sizeof buffer, pipe)) run.output += buffer;
-  const int status = pclose(pipe);
-  run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  return run;
-}
-
-long filesIn(const std::string& folder) {
-  return static_cast<long>(std::distance(std::filesystem::directory_iterator(folder), {}));
-}
-
 TEST(CliPipes, EveryCommandRefusesAPipeWithoutWaitingOnIt) {
   TempFolder temp;
-  const std::string collection = temp.file("set.txt"), output = temp.file("out.txt");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "1", "--seed", "3", "--output", collection}).status, 0);
+  const std::string collection = made(temp, 7, 1, 3), output = temp.file("out.txt");
   const Fifo pipe(temp.file("pipe.txt"));
   ASSERT_TRUE(pipe.made());
   const std::string refused = "Cannot open " + pipe.path() + ": it is not a regular file\n";
@@ -392,45 +357,52 @@ TEST(CliPipes, EveryCommandRefusesAPipeWithoutWaitingOnIt) {
   }));
   EXPECT_EQ(appended.err, "combwise-cli create: Cannot write " + pipe.path() + ": it is not a regular file\n");
   // The PDF is written by a process of its own: Qt wants its main thread.
-  const ToolRun printed = tool({"pdf", collection, "1", "--output", pipe.path()});
+  const ShellRun printed = tool({"pdf", collection, "1", "--output", pipe.path()});
   EXPECT_EQ(printed.status, 1);
   EXPECT_THAT(printed.output, HasSubstr("Cannot write " + pipe.path() + ": it is not a regular file"));
   EXPECT_FALSE(std::filesystem::exists(output));
 }
 
-TEST(CliFullDisk, AFailedWriteLeavesThePdfAndTheCollectionAsTheyWereAndSaysWhy) {
-  TempFolder temp;
-  const std::string collection = temp.file("set.txt"), pdf = temp.file("p.pdf");
-  ASSERT_EQ(cli({"create", "--size", "7", "--count", "3", "--seed", "5", "--output", collection}).status, 0);
+// Prints over an older PDF beside the collection `set` and appends to `set`,
+// in a folder that takes a page or two more: both are refused with `cause`,
+// and the folder stays as it was.
+void expectFullDiskRefused(const std::string& set, const std::string& cause) {
+  const std::string folder = std::filesystem::path(set).parent_path(), pdf = folder + "/p.pdf";
+  const std::string before = TempFolder::contentOf(set);
   ASSERT_TRUE(writeLines(pdf, {"old"}, WriteMode::Truncate));
-  const std::string before = TempFolder::contentOf(collection);
-  CliRun printed, created;
-  {
-    const FileSizeLimit full(before.size() + 1000);  // less than three printed pages, or six more puzzles
-    printed = cli({"pdf", collection, "all", "--output", pdf, "--clues"});
-    created = cli({"create", "--size", "7", "--count", "30", "--seed", "6", "--output", collection});
-  }
+  const long files = filesIn(folder);
+  const CliRun printed = cli({"pdf", set, "all", "--output", pdf, "--clues"});
   EXPECT_EQ(printed.status, 1);
   EXPECT_EQ(printed.out, "");
-  EXPECT_EQ(printed.err, "combwise-cli pdf: Cannot write " + pdf + ": File too large\n");
+  EXPECT_EQ(printed.err, "combwise-cli pdf: Cannot write " + pdf + ": " + cause + "\n");
   EXPECT_EQ(TempFolder::contentOf(pdf), "old\r\n");
+  const CliRun created = cli({"create", "--size", "7", "--count", "60", "--seed", "6", "--output", set});
   EXPECT_EQ(created.status, 1);
-  EXPECT_THAT(created.err, HasSubstr("Cannot write " + collection + ": File too large; the "));
+  EXPECT_THAT(created.err, HasSubstr("Cannot write " + set + ": " + cause + "; the "));
   EXPECT_THAT(created.err, HasSubstr(" lines added before it were taken back"));
-  EXPECT_EQ(TempFolder::contentOf(collection), before);
-  EXPECT_EQ(filesIn(temp.folder()), 2);
+  EXPECT_EQ(TempFolder::contentOf(set), before);
+  EXPECT_EQ(filesIn(folder), files);
+}
+
+TEST(CliFullDisk, AFailedWriteLeavesThePdfAndTheCollectionAsTheyWereAndSaysWhy) {
+  TempFolder temp;
+  const std::string collection = made(temp, 7, 3, 5);
+  {
+    const FileSizeLimit full(TempFolder::contentOf(collection).size() + 1000);
+    expectFullDiskRefused(collection, "File too large");
+  }
 
   // A folder the tool may not write to: the cause, and no word from Qt.
   std::filesystem::create_directory(temp.file("ro"));
   std::filesystem::permissions(temp.file("ro"), std::filesystem::perms(0555));
   const bool root = ::geteuid() == 0;
   if (root && std::system("setpriv --help > /dev/null 2>&1") != 0) GTEST_SKIP() << "no setpriv to run as another user";
-  const ToolRun refused = tool({"pdf", collection, "1", "--output", temp.file("ro/c.pdf")},
-                               root ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "");
+  const ShellRun refused = tool({"pdf", collection, "1", "--output", temp.file("ro/c.pdf")},
+                                root ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "");
   EXPECT_EQ(refused.status, 1);
   EXPECT_THAT(refused.output,
               HasSubstr("combwise-cli pdf: Cannot write " + temp.file("ro/c.pdf") + ": Permission denied"));
-  EXPECT_THAT(refused.output, ::testing::Not(HasSubstr("QPainter")));
+  EXPECT_THAT(refused.output, Not(HasSubstr("QPainter")));
   EXPECT_EQ(filesIn(temp.file("ro")), 0);
 }
 
@@ -441,25 +413,14 @@ TEST(CliFullDisk, OnASmallFileSystemTheCauseIsNoSpaceLeft) {
   std::filesystem::create_directory(disk);
   if (::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=64k") != 0)
     GTEST_SKIP() << "mounting a small tmpfs is not allowed here; the file size limit case covers full disks";
-  const std::string collection = disk + "/set.txt", pdf = disk + "/p.pdf";
-  CliRun printed, created;
-  std::string before;
+  const std::string collection = disk + "/set.txt";
   if (cli({"create", "--size", "7", "--count", "3", "--seed", "5", "--output", collection}).status == 0) {
-    before = TempFolder::contentOf(collection);
-    writeLines(disk + "/filler", {std::string(56 * 1024, 'f')}, WriteMode::Truncate);  // leaves a page or two
-    printed = cli({"pdf", collection, "all", "--output", pdf, "--clues"});
-    created = cli({"create", "--size", "7", "--count", "60", "--seed", "6", "--output", collection});
+    writeLines(disk + "/filler", {std::string(52 * 1024, 'f')}, WriteMode::Truncate);  // leaves a page or two
+    expectFullDiskRefused(collection, "No space left on device");
+  } else {
+    ADD_FAILURE() << "no collection made on the small disk";
   }
-  const std::string after = TempFolder::contentOf(collection);
-  const bool pdfLeft = std::filesystem::exists(pdf);
-  const long files = filesIn(disk);
   ASSERT_EQ(::umount(disk.c_str()), 0);
-  ASSERT_FALSE(before.empty());
-  EXPECT_EQ(printed.err, "combwise-cli pdf: Cannot write " + pdf + ": No space left on device\n");
-  EXPECT_FALSE(pdfLeft);
-  EXPECT_THAT(created.err, HasSubstr("Cannot write " + collection + ": No space left on device; the "));
-  EXPECT_EQ(after, before);
-  EXPECT_EQ(files, 2);
 }
 
 }  // namespace

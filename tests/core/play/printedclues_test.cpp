@@ -26,7 +26,7 @@ namespace {
 constexpr SheetLineHeights kHeights{60, 100, 110};
 constexpr double kTallPage = 1e9;
 
-TEST(PrintedClues, WrappedEmptyAndBrokenCluesKeepTheirPlaces) {
+TEST(PrintedClues, TheHeaderNamesTheGivenProgramAndWrappedEmptyAndBrokenCluesKeepTheirPlaces) {
   PuzzleState state;
   state.WordCount = 4;
   state.PuzzleNumber = 12;
@@ -36,10 +36,11 @@ TEST(PrintedClues, WrappedEmptyAndBrokenCluesKeepTheirPlaces) {
   state.ClueTexts[3] = "two\r\nlines";
   const CharMeasure measure;
   // The text column runs from 9600 to 10000: 40 characters.
-  const std::vector<SheetLine> lines = layOutPrintedClues(state, {}, measure, kHeights, 9200, 1000, kTallPage);
+  const std::vector<SheetLine> lines =
+      layOutPrintedClues(state, {"Hexes", "site"}, measure, kHeights, 9200, 1000, kTallPage);
   using F = SheetFont;
   const std::vector<SheetLine> expected{
-      {9200, 1000, "Combwise Puzzle ...hexagonal crosswords - Puz# 12", F::Header},
+      {9200, 1000, "Hexes Puzzle ...site - Puz# 12", F::Header},
       {9200, 1060, "/p/set.txt -  12", F::Text},  // the number with its leading blank
       {9200, 1700, "INSIDE CLUES:", F::Heading},
       {9200, 2000, "01. ", F::Text},
@@ -54,20 +55,6 @@ TEST(PrintedClues, WrappedEmptyAndBrokenCluesKeepTheirPlaces) {
       {9600, 3354, "lines", F::Text},
   };
   EXPECT_EQ(lines, expected);
-}
-
-TEST(PrintedClues, TheHeaderNamesTheGivenProgramAndSiteAndOneLineCluesStepByALineAndTheGap) {
-  PuzzleState state;
-  state.WordCount = 20;
-  for (int k = 1; k <= 20; ++k) state.ClueTexts[static_cast<std::size_t>(k)] = "clue";
-  const std::vector<SheetLine> lines =
-      layOutPrintedClues(state, {"Hexes", "site"}, CharMeasure(), kHeights, 1200, 1200, kTallPage);
-  ASSERT_EQ(lines.size(), 2u + 2u + 4u * 10u);
-  EXPECT_EQ(lines[0].text, "Hexes Puzzle ...site - Puz# 0");
-  // The tenth inside entry, 100 + 48 below each one before from top + 1000.
-  EXPECT_EQ(lines[21].text, "10. ");
-  EXPECT_EQ(lines[21].y, 2200 + 148 * 9);
-  EXPECT_EQ(lines[22].x, 1600);
 }
 
 TEST(PrintedClues, AListingTallerThanThePageGoesOnWithTheHeaderRepeatedAndLosesNothing) {

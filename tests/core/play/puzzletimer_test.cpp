@@ -8,29 +8,27 @@ namespace {
 
 using std::chrono::milliseconds;
 
-TEST(PuzzleTimer, CountsOnlyWhileRunning) {
+// Pausing while inactive, stopping when solved and going on across runs
+// are the session's timer test; here the edges of the clock itself.
+TEST(PuzzleTimer, CountsOnlyWhileRunningAndNeverBackwards) {
   milliseconds now{1'000'000};
   PuzzleTimer timer([&now] { return now; });
-  EXPECT_FALSE(timer.started());
   timer.resume();  // nothing to resume before a start
   now += milliseconds{5000};
   EXPECT_EQ(timer.elapsedSeconds(), 0);
 
   timer.start();
   now += milliseconds{2500};
-  EXPECT_EQ(timer.elapsed(), milliseconds{2500});
   timer.pause();
   timer.pause();
-  now += milliseconds{60'000};  // the window is minimised
-  EXPECT_EQ(timer.elapsed(), milliseconds{2500});
+  now += milliseconds{60'000};
   timer.resume();
   timer.resume();
   now += milliseconds{1000};
-  EXPECT_EQ(timer.elapsedSeconds(), 3);
-
-  timer.stop();  // "All done !"
-  now += milliseconds{9000};
+  EXPECT_EQ(timer.elapsed(), milliseconds{3500});
+  timer.stop();
   timer.resume();
+  now += milliseconds{9000};
   EXPECT_TRUE(timer.stopped());
   EXPECT_EQ(timer.elapsed(), milliseconds{3500});
 
@@ -43,11 +41,8 @@ TEST(PuzzleTimer, CountsOnlyWhileRunning) {
 }
 
 TEST(PuzzleTimer, ShowsMinutesAndSeconds) {
-  EXPECT_EQ(formatElapsed(0), "0:00");
   EXPECT_EQ(formatElapsed(7), "0:07");
-  EXPECT_EQ(formatElapsed(754), "12:34");
   EXPECT_EQ(formatElapsed(3599), "59:59");
-  EXPECT_EQ(formatElapsed(3600), "1:00:00");
   EXPECT_EQ(formatElapsed(3723), "1:02:03");
   EXPECT_EQ(formatElapsed(-4), "0:00");
 }

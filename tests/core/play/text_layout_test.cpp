@@ -1,4 +1,5 @@
-// Word wrapping, the clue panel, and the browsing rules.
+// Word wrapping, the clue panel, and where the arrows lead (the session's
+// start-up test covers the choice of the collection to start with).
 #include <gtest/gtest.h>
 
 #include "core/files/browsing.h"
@@ -22,15 +23,19 @@ TEST(WrapText, BreaksAtBlanksAndLineEnds) {
   EXPECT_TRUE(WrapText("", m, 100).empty());
 }
 
-TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
+// Two hexagons' clues, the first inside one wrapping to a text column of
+// 700 - 20 - 450 = 230 twips and the second outside one empty.
+CluePanel twoHexagons() {
   PuzzleState state;
   state.WordCount = 4;
   state.ClueTexts[1] = "outside one";
   state.ClueTexts[2] = "inside one is long enough to wrap";
-  state.ClueTexts[3] = "";
   state.ClueTexts[4] = "inside two";
-  const CharMeasure m;
-  const CluePanel panel = layOutClues(state, m, 700);  // text column 700 - 20 - 450 = 230 twips
+  return layOutClues(state, CharMeasure(), 700);
+}
+
+TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
+  const CluePanel panel = twoHexagons();
   std::vector<std::string> texts;
   for (const auto& line : panel.lines) texts.push_back(line.text);
   EXPECT_EQ(texts,
@@ -47,12 +52,7 @@ TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
 }
 
 TEST(CluePanel, LinksEachHexagonToItsTwoCluesAndBack) {
-  PuzzleState state;
-  state.WordCount = 4;
-  state.ClueTexts[1] = "outside one";
-  state.ClueTexts[2] = "inside one is long enough to wrap";
-  state.ClueTexts[4] = "inside two";
-  const CluePanel panel = layOutClues(state, CharMeasure(), 700);
+  const CluePanel panel = twoHexagons();
   const HexagonClues first = cluesOfHexagon(panel, 1);
   ASSERT_TRUE(first.inside && first.outside);
   EXPECT_EQ(*first.inside, (ClueSpan{2, 200, 400}));  // both of its wrapped lines
@@ -80,14 +80,6 @@ TEST(Browsing, ArrowsWrapAndTheRightButtonJumpsToTheEnds) {
   EXPECT_EQ(arrowTarget(3, 1, 3, 10, none), std::nullopt);
   EXPECT_EQ(arrowTarget(1, 1, 3, 10, [] { return 0.0; }), 1);
   EXPECT_EQ(arrowTarget(1, 1, 3, 10, [] { return 0.99999; }), 10);
-}
-
-TEST(Browsing, StartsWithTheConfiguredCollectionOrTheReadymadeOne) {
-  auto exists = [](const std::string& path) { return path == "mine.txt" || path == "puzzles.txt"; };
-  EXPECT_EQ(startupCollection("mine.txt", exists), "mine.txt");
-  EXPECT_EQ(startupCollection("gone.txt", exists), "puzzles.txt");
-  EXPECT_EQ(startupCollection("", exists), "puzzles.txt");
-  EXPECT_EQ(startupCollection("gone.txt", [](const std::string&) { return false; }), std::nullopt);
 }
 
 }  // namespace

@@ -1,141 +1,49 @@
 // The game session's command rules, driven through a scripted host: browsing
-// and its ends, the one-puzzle collection, recent files, start-up's choice
-// of collection, undo and reset with a declined question, verification,
-// the guards while the session is busy, save and exit.
+// and its ends, recent files, start-up's choice of collection, undo and reset
+// with a declined question, verification, the guards while the session is
+// busy, save, exit and zoom.
 #include "core/session/gamesession.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <deque>
 #include <fstream>
-#include <functional>
 
 #include "core/files/config.h"
-#include "support/gamedata.h"
-#include "support/tempfolder.h"
+#include "sessiontest.h"
 
 namespace combwise {
 namespace {
 
-class ScriptedHost : public SessionHost {
- public:
-  int ask(const std::string& prompt, const std::string& style) override {
-    asked.push_back({prompt, style});
-    if (answers.empty()) return kAnswerOk;
-    const int answer = answers.front();
-    answers.pop_front();
-    return answer;
-  }
-  bool confirm(const std::string&) override { return true; }
-  std::string chooseFile(const FileQuestion& question) override {
-    questions.push_back(question);
-    if (files.empty()) return {};
-    std::string path = files.front();
-    files.pop_front();
-    return path;
-  }
-  void tell(const Message& message) override { told.push_back(message); }
-  void progress(const std::string& status) override { statuses.push_back(status); }
-  void pumpEvents() override {
-    if (duringEvents) duringEvents();
-  }
-  void busyChanged() override { ++busyChanges; }
+using testing::hoverOn;
 
-  std::vector<Message> asked;
-  std::deque<int> answers;  // empty: Ok
-  std::vector<FileQuestion> questions;
-  std::deque<std::string> files;  // empty: the dialog is cancelled
-  std::vector<Message> told;
-  std::vector<std::string> statuses;
-  std::function<void()> duringEvents;  // runs whenever the session lets events run
-  int busyChanges = 0;
-};
-
-class GameSessionTest : public ::testing::Test {
+class GameSessionTest : public testing::SessionTest {
  protected:
-  void SetUp() override {
-    // A small dictionary keeps the start step quick.
-    write("english3.txt", {"CAT", "DOG", "BIRD", "FISH", "HORSE", "SHEEP", "RABBIT", "DONKEY"});
-  }
-
-  std::string write(const std::string& name, const std::vector<std::string>& lines) const {
-    std::ofstream out(home.file(name), std::ios::binary);
-    for (const auto& line : lines) out << line << "\r\n";
-    return home.file(name);
-  }
-  std::string collection(const std::string& name, std::size_t count, std::size_t from = 0) const {
-    const std::vector<std::string> all = testing::readymadeSevens(from + count);
-    return write(name, {all.begin() + static_cast<long>(from), all.begin() + static_cast<long>(from + count)});
-  }
-  CommandResult open(const std::string& path) {
-    host.files.push_back(path);
-    return session.loadCollection();
-  }
-  // Rests the pointer on the middle of a grid cell.
-  CommandResult hoverOn(int row, int col) {
-    const BoardLayout& layout = session.layout();
-    return session.hover(layout.cellX(row, col) + layout.CellWidth / 2.0,
-                         layout.cellY(row, col) + layout.CellHeight / 2.0);
-  }
+  void SetUp() override { session.startUp(); }
+  CommandResult open(const std::string& path) { return host.open(session, path); }
   int number() const { return session.puzzle().PuzzleNumber; }
 
-  TempFolder home;
-  ScriptedHost host;
   GameSession session{home.folder(), host};
 };
 
 // Where each arrow leads is the browsing rules' own test; here the session
 // reads that puzzle.
 TEST_F(GameSessionTest, ArrowsReadThePuzzleTheyLeadTo) {
-  session.startUp();
   const CommandResult loaded = open(collection("ten.txt", 10));
   EXPECT_EQ(loaded.status, "Puzzle file read");
   EXPECT_TRUE(has(loaded.redraw, Redraw::Puzzle));
   EXPECT_EQ(host.questions.at(0).title, "Select a saved game file to load");
-
   EXPECT_EQ(session.arrow(0, 1).status, "Puzzle read");
   EXPECT_EQ(number(), 10);
-  session.arrow(0, 2);
-  EXPECT_EQ(number(), 1);
-  for (int i = 0; i < 20; ++i) {
-    session.arrow(1, 1);
-    EXPECT_GE(number(), 1);
-    EXPECT_LE(number(), 10);
-  }
-  EXPECT_TRUE(session.arrow(3, 1).empty());
 
   // A one-puzzle collection does not even reload.
   open(collection("one.txt", 1));
-  ASSERT_EQ(session.puzzle().PuzzleCount, 1);
-  for (int k = 0; k < 3; ++k) {
-    EXPECT_TRUE(session.arrow(k, 1).empty());
-    EXPECT_TRUE(session.arrow(k, 2).empty());
-  }
+  for (int k = 0; k < 3; ++k) EXPECT_TRUE(session.arrow(k, 1).empty() && session.arrow(k, 2).empty()) << k;
   EXPECT_EQ(number(), 1);
 }
 
-TEST_F(GameSessionTest, AFailedReadKeepsTheNewNumberAndACollectionThatCannotBeReadKeepsTheOldOne) {
-  session.startUp();
-  const std::vector<std::string> all = testing::readymadeSevens(2);
-  const std::string path = write("mixed.txt", {all[0], "7;ABC;NOCOMMA;", all[1]});
-  open(path);
-  const CommandResult next = session.arrow(2, 1);
-  EXPECT_EQ(next.status, "Error reading puzzle");
-  EXPECT_EQ(number(), 2);
-
-  const std::string good = collection("good.txt", 3);
-  open(good);
-  const CommandResult bad = open(write("bad.txt", {"7;ABC;NOCOMMA;"}));
-  EXPECT_EQ(bad.status, "Error loading puzzle file");
-  EXPECT_EQ(session.puzzle().CollectionPath, good);
-  EXPECT_EQ(session.puzzle().PuzzleCount, 3);
-  EXPECT_EQ(open(write("empty.txt", {})).status, "No puzzles in empty.txt");
-}
-
 TEST_F(GameSessionTest, RecentFilesKeepTheirOrderDropTheOldestAndReportAMissingFile) {
-  session.startUp();
   std::vector<std::string> paths;
   for (int i = 0; i < 6; ++i) paths.push_back(collection("c" + std::to_string(i) + ".txt", 2, i));
   auto shown = [this] {
@@ -151,86 +59,64 @@ TEST_F(GameSessionTest, RecentFilesKeepTheirOrderDropTheOldestAndReportAMissingF
   for (int i = 2; i < 6; ++i) open(paths[i]);
   EXPECT_EQ(shown(), (std::vector<std::string>{paths[5], paths[4], paths[3], paths[2], paths[1]}));
 
-  const CommandResult reopened = session.openRecent(4);
-  EXPECT_EQ(reopened.status, "Puzzle file read");
+  EXPECT_EQ(session.openRecent(4).status, "Puzzle file read");
   EXPECT_EQ(session.puzzle().CollectionPath, paths[1]);
   EXPECT_EQ(shown().front(), paths[5]);  // a listed path is not moved up
 
   std::remove(paths[2].c_str());
   const CommandResult missing = session.openRecent(3);
-  ASSERT_EQ(missing.messages.size(), 1u);
-  EXPECT_EQ(missing.messages[0], (Message{"File does not exist:\n" + paths[2], "vbok+vbcritical"}));
+  EXPECT_EQ(missing.messages, (std::vector<Message>{{"File does not exist:\n" + paths[2], "vbok+vbcritical"}}));
   EXPECT_EQ(session.puzzle().CollectionPath, paths[1]);
 }
 
 TEST_F(GameSessionTest, StartOpensTheConfiguredPuzzleOrTheReadymadeOnesOrNothing) {
-  {
-    GameSession game(home.folder(), host);
-    game.startUp();
-    game.setStartCollection(collection("ten.txt", 10), 7);
-    const CommandResult started = game.startStep();
-    EXPECT_EQ(started.status, "Ready ...");
-    EXPECT_EQ(game.puzzle().PuzzleNumber, 7);
-    EXPECT_EQ(game.sizeToCreate(), 7);
-    EXPECT_TRUE(game.startedUp());
-  }
-  {
-    GameSession game(home.folder(), host);
-    game.startUp();
-    game.setStartCollection(home.file("ten.txt"), 12);  // beyond the count: an empty board
-    EXPECT_EQ(game.startStep().status, "");
-    EXPECT_EQ(game.puzzle().PuzzleSize, -1);
-    EXPECT_TRUE(game.puzzle().CollectionPath.empty());
-    EXPECT_FALSE(game.hasPuzzle());
-  }
-  {
-    GameSession game(home.folder(), host);
-    game.startUp();
-    game.setStartCollection(home.file("gone.txt"), 3);
-    EXPECT_EQ(game.startStep().status, "");  // nothing configured exists, no readymade puzzles
-    EXPECT_EQ(game.puzzle().PuzzleNumber, 0);
-    collection("puzzles.txt", 3);  // the readymade ones beside the program open at 1
-    GameSession again(home.folder(), host);
-    again.startUp();
-    again.setStartCollection(home.file("gone.txt"), 3);
-    again.startStep();
-    EXPECT_EQ(again.puzzle().CollectionPath, home.file("puzzles.txt"));
-    EXPECT_EQ(again.puzzle().PuzzleNumber, 1);
-  }
+  const std::string ten = collection("ten.txt", 10);
+  auto startAt = [this](const std::string& path, int n, const std::string& status) {
+    auto game = std::make_unique<GameSession>(home.folder(), host);
+    EXPECT_EQ(start(*game, path, n).status, status) << path << " " << n;
+    return game;
+  };
+  auto game = startAt(ten, 7, "Ready ...");
+  EXPECT_EQ(game->puzzle().PuzzleNumber, 7);
+  EXPECT_TRUE(game->startedUp());
+
+  game = startAt(ten, 12, "");  // beyond the count: an empty board
+  EXPECT_EQ(game->puzzle().PuzzleSize, -1);
+  EXPECT_TRUE(game->puzzle().CollectionPath.empty());
+  EXPECT_FALSE(game->hasPuzzle());
+
+  EXPECT_EQ(startAt(home.file("gone.txt"), 3, "")->puzzle().PuzzleNumber, 0);  // no readymade puzzles either
+  collection("puzzles.txt", 3);  // the readymade ones beside the program open at 1
+  game = startAt(home.file("gone.txt"), 3, "Ready ...");
+  EXPECT_EQ(game->puzzle().CollectionPath, home.file("puzzles.txt"));
+  EXPECT_EQ(game->puzzle().PuzzleNumber, 1);
 }
 
 TEST_F(GameSessionTest, TypingUndoAndARightClickResetDeclinedStillForgetTheUndoList) {
-  session.startUp();
   open(collection("ten.txt", 10));
-  const CommandResult hovered = hoverOn(3, 6);
+  const CommandResult hovered = hoverOn(session, 3, 6);
   EXPECT_EQ(hovered.status, "Hex = 4");
   EXPECT_TRUE(has(hovered.redraw, Redraw::Marker));
   EXPECT_TRUE(has(session.type('k').redraw, Redraw::Board));
-  EXPECT_EQ(session.puzzle().Entries.at(3, 6), "K");
-  EXPECT_TRUE(session.type('1').empty());
-  session.type('.');
-  EXPECT_TRUE(session.puzzle().Entries.at(3, 6).empty());
+  session.type('q');
   session.undo(1);
   EXPECT_EQ(session.puzzle().Entries.at(3, 6), "K");
 
   host.answers.push_back(kAnswerNo);
-  const CommandResult declined = session.undo(2);
+  EXPECT_TRUE(session.undo(2).empty());
   EXPECT_EQ(host.asked.back(), (Message{"Reset puzzle?", "vbquestion+vbyesno"}));
-  EXPECT_TRUE(declined.empty());
   EXPECT_TRUE(session.puzzle().UndoList.empty());
   EXPECT_EQ(session.puzzle().Entries.at(3, 6), "K");
   EXPECT_TRUE(session.undo(2).empty());  // nothing to undo: not even the question
   EXPECT_EQ(host.asked.size(), 1u);
 
   session.type('Q');
-  host.answers.push_back(kAnswerYes);
   EXPECT_EQ(session.reset().status, "Puzzle reset");
   EXPECT_TRUE(session.puzzle().UndoList.empty());
   EXPECT_EQ(session.puzzle().Entries.at(3, 6), "Q");  // the player's letters stay
 }
 
 TEST_F(GameSessionTest, VerifyNeedsAPuzzleAndCrossesTheUnfinishedHexagonsUntilReleased) {
-  session.startUp();
   EXPECT_TRUE(session.verifyPressed().empty());
   EXPECT_TRUE(session.verifyReleased().empty());
   EXPECT_TRUE(session.reset().empty());  // no collection: not even the question
@@ -238,8 +124,8 @@ TEST_F(GameSessionTest, VerifyNeedsAPuzzleAndCrossesTheUnfinishedHexagonsUntilRe
   open(collection("ten.txt", 10));
   const CommandResult pressed = session.verifyPressed();
   EXPECT_EQ(pressed.status, "Not done yet");
-  EXPECT_EQ(session.marks().size(), 14u);  // two lines for each of the seven hexagons
   EXPECT_TRUE(pressed.messages.empty());
+  EXPECT_EQ(session.marks().size(), 14u);  // two lines for each of the seven hexagons
   EXPECT_TRUE(has(session.verifyReleased().redraw, Redraw::Board));
   EXPECT_TRUE(session.marks().empty());
 
@@ -250,10 +136,8 @@ TEST_F(GameSessionTest, VerifyNeedsAPuzzleAndCrossesTheUnfinishedHexagonsUntilRe
 }
 
 TEST_F(GameSessionTest, WhileBusyTheFileAndPlayCommandsDoNothing) {
-  session.startUp();
-  const std::string path = collection("ten.txt", 10);
-  open(path);
-  hoverOn(3, 6);
+  open(collection("ten.txt", 10));
+  hoverOn(session, 3, 6);
   session.type('A');
   std::vector<CommandResult> during;
   bool tried = false;
@@ -273,7 +157,7 @@ TEST_F(GameSessionTest, WhileBusyTheFileAndPlayCommandsDoNothing) {
     during.push_back(session.create());
     during.push_back(session.chooseDictionary());
     during.push_back(session.randomize());
-    during.push_back(hoverOn(3, 7));
+    during.push_back(hoverOn(session, 3, 7));
     during.push_back(session.type('B'));
     const CommandResult recent = session.openRecent(0);
     EXPECT_EQ(recent.messages, (std::vector<Message>{{"Cancel puzzle creation", "vbok+vbexclamation"}}));
@@ -283,16 +167,15 @@ TEST_F(GameSessionTest, WhileBusyTheFileAndPlayCommandsDoNothing) {
   for (const CommandResult& result : during) EXPECT_TRUE(result.empty());
   EXPECT_EQ(host.questions.size(), 1u);   // no file dialog opened while busy
   EXPECT_EQ(session.puzzle().SelRow, 0);  // the pointer selects nothing while busy
-  EXPECT_EQ(session.puzzle().PuzzleNumber, 1);
+  EXPECT_EQ(number(), 1);
   EXPECT_EQ(session.puzzle().UndoList.size(), 1u);
   EXPECT_TRUE(session.createEnabled());
   EXPECT_GE(host.busyChanges, 2);
 }
 
 TEST_F(GameSessionTest, CancelStopsACreationThatCannotSucceed) {
-  session.startUp();
   session.readDictionary(home.file("english3.txt"));
-  write("mean3456.txt", {"CAT:a pet"});
+  testing::writeCrLf(home.file("mean3456.txt"), {"CAT:a pet"});
   host.duringEvents = [this] {
     if (session.creating()) {
       EXPECT_EQ(session.cancelCreation().status, "Cancelling ...");
@@ -304,36 +187,20 @@ TEST_F(GameSessionTest, CancelStopsACreationThatCannotSucceed) {
   EXPECT_NE(std::find(host.statuses.begin(), host.statuses.end(), "Creating a puzzle ..."), host.statuses.end());
 }
 
-TEST_F(GameSessionTest, SizeLabelCyclesAndFollowsTheShownPuzzle) {
-  session.startUp();
-  EXPECT_EQ(session.sizeToCreate(), 7);
-  EXPECT_TRUE(has(session.nextSize().redraw, Redraw::Size));  // the cycle itself is the board's
-  EXPECT_EQ(session.sizeToCreate(), 10);
-  open(collection("ten.txt", 2));
-  EXPECT_EQ(session.sizeToCreate(), 7);
-}
-
-TEST_F(GameSessionTest, SaveAppendsAndRandomizeNeedsACollection) {
-  session.startUp();
+TEST_F(GameSessionTest, SaveAppendsTheShownPuzzleAndExitSavesTheSettingsOnlyWhenConfirmed) {
   EXPECT_EQ(session.savePuzzle().status, "There is no puzzle to save");
   EXPECT_TRUE(session.randomize().empty());
-  open(collection("ten.txt", 3));
+  open(collection("ten.txt", 10));
+  session.arrow(2, 1);
   host.files.push_back(home.file("saved"));
-  const CommandResult saved = session.savePuzzle();
-  EXPECT_EQ(saved.messages,
+  EXPECT_EQ(session.savePuzzle().messages,
             (std::vector<Message>{{"Puzzle appended to file:\n" + home.file("saved.txt") + "\n 1 puzzles", ""}}));
   EXPECT_EQ(host.questions.back().mode, "SAVE");
   EXPECT_EQ(session.puzzle().CollectionPath, home.file("ten.txt"));
-}
 
-TEST_F(GameSessionTest, ExitSavesTheSettingsOnlyWhenConfirmed) {
-  session.startUp();
-  open(collection("ten.txt", 10));
-  session.arrow(2, 1);
   host.answers.push_back(kAnswerNo);
   EXPECT_FALSE(session.exit().close);
   EXPECT_FALSE(std::ifstream(configPath(home.folder())).good());
-  host.answers.push_back(kAnswerYes);
   EXPECT_TRUE(session.exit().close);
   EXPECT_EQ(host.asked.back(), (Message{"Exit?", "vbQuestion + vbYesNo"}));
   Settings saved;
@@ -342,14 +209,17 @@ TEST_F(GameSessionTest, ExitSavesTheSettingsOnlyWhenConfirmed) {
   EXPECT_EQ(saved.collectionPath, home.file("ten.txt"));
 }
 
-TEST_F(GameSessionTest, ZoomStepsFromTheFittedCellAndResetReturnsHome) {
-  session.startUp();
+TEST_F(GameSessionTest, TheSizeFollowsTheShownPuzzleAndZoomResetReturnsHome) {
+  EXPECT_TRUE(has(session.nextSize().redraw, Redraw::Size));  // the cycle itself is the board's
+  EXPECT_EQ(session.sizeToCreate(), 10);
   open(collection("ten.txt", 2));
+  EXPECT_EQ(session.sizeToCreate(), 7);
+
   const int fitted = session.layout().CellWidth;
   const CommandResult in = session.zoom(1);
   EXPECT_TRUE(has(in.redraw, Redraw::Layout));
   EXPECT_FALSE(has(in.redraw, Redraw::BoardHome));
-  EXPECT_EQ(session.fontSize(), 11.5);
+  EXPECT_NE(session.layout().CellWidth, fitted);
   EXPECT_TRUE(has(session.zoom(2).redraw, Redraw::BoardHome));
   EXPECT_EQ(session.layout().CellWidth, fitted);
   EXPECT_EQ(session.fontSize(), 10.0);

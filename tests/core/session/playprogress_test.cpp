@@ -13,66 +13,35 @@
 #include "core/files/extraoptions.h"
 #include "core/files/progressfile.h"
 #include "core/session/gamesession.h"
-#include "support/gamedata.h"
-#include "support/tempfolder.h"
+#include "sessiontest.h"
 
 namespace combwise {
 namespace {
 
 using std::chrono::milliseconds;
+using testing::hoverOn;
 
-class QuietHost : public SessionHost {
- public:
-  int ask(const std::string&, const std::string&) override { return kAnswerYes; }
-  bool confirm(const std::string&) override { return true; }
-  std::string chooseFile(const FileQuestion&) override { return {}; }
-  void tell(const Message& message) override { told.push_back(message); }
-  std::vector<Message> told;
-};
-
-class PlayProgressTest : public ::testing::Test {
+class PlayProgressTest : public testing::SessionTest {
  protected:
-  void SetUp() override {
-    std::ofstream words(home.file("english3.txt"), std::ios::binary);
-    for (const char* word : {"CAT", "DOG", "BIRD", "FISH", "HORSE", "SHEEP"}) words << word << "\r\n";
-    std::ifstream in(testing::gameDataPath("puzzles.txt"), std::ios::binary);
-    std::ofstream out(home.file("ten.txt"), std::ios::binary);
-    std::string line;
-    for (int kept = 0; kept < 10 && std::getline(in, line);) {
-      if (line.rfind("7;", 0) != 0) continue;
-      out << line << (line.back() == '\r' ? "\n" : "\r\n");
-      ++kept;
-    }
-    path = home.file("ten.txt");
-  }
-
   // A new run of the program at puzzle n of the collection, with a clock
   // the test moves.
   std::unique_ptr<GameSession> run(int n, CommandResult* started = nullptr) {
     auto session = std::make_unique<GameSession>(home.folder(), host);
     session->setClock([this] { return now; });
-    CommandResult result = session->startUp();
-    session->setStartCollection(path, n);
-    result.add(session->startStep());
+    const CommandResult result = start(*session, path, n);
     if (started) *started = result;
     return session;
   }
-  static void select(GameSession& session, int row, int col) {
-    const BoardLayout& layout = session.layout();
-    session.hover(layout.cellX(row, col) + layout.CellWidth / 2.0, layout.cellY(row, col) + layout.CellHeight / 2.0);
-  }
   static std::string at(const GameSession& session, int row, int col) { return session.puzzle().Entries.at(row, col); }
 
-  TempFolder home;
-  QuietHost host;
-  std::string path;
+  std::string path = collection("ten.txt", 10);
   milliseconds now{1'000'000};
 };
 
 TEST_F(PlayProgressTest, LettersComeBackAtTheNextStartButNeverOverLettersCarriedOver) {
   {
     auto session = run(3);
-    select(*session, 3, 6);
+    hoverOn(*session, 3, 6);
     session->type('k');
     EXPECT_TRUE(session->progressUnsaved());
     session->saveProgress();
@@ -82,7 +51,7 @@ TEST_F(PlayProgressTest, LettersComeBackAtTheNextStartButNeverOverLettersCarried
   EXPECT_EQ(at(*session, 3, 6), "K");
 
   // Browsing keeps the letters where they stand, as it always did.
-  select(*session, 3, 7);
+  hoverOn(*session, 3, 7);
   session->type('q');
   session->arrow(2, 1);
   EXPECT_EQ(at(*session, 3, 6), "K");
@@ -97,7 +66,7 @@ TEST_F(PlayProgressTest, ACleanBoardOptionClearsLettersForAnotherPuzzleOnlyAndBr
   auto session = run(1);
   session->setExtraOptions(true, false);
   EXPECT_TRUE(readExtraOptions(extraOptionsPath(home.folder())).options.cleanBoardEachPuzzle);
-  select(*session, 3, 6);
+  hoverOn(*session, 3, 6);
   session->type('z');
   session->reset();  // the same puzzle again: letters stay
   EXPECT_EQ(at(*session, 3, 6), "Z");
@@ -152,7 +121,7 @@ TEST_F(PlayProgressTest, TheTimerRunsWhileTheWindowIsActiveStopsWhenSolvedAndGoe
   // Letters left half done take their time with them, including the time
   // after the last letter typed, and the solve counts all of it.
   session = run(4);
-  select(*session, 3, 6);
+  hoverOn(*session, 3, 6);
   now += milliseconds{10'000};
   session->type('k');
   session->saveProgress();
@@ -191,7 +160,7 @@ TEST_F(PlayProgressTest, KeyboardMovesClickedCluesAndClearingLettersSayWhatTheyD
 TEST_F(PlayProgressTest, AProgressFileThatCannotBeWrittenIsReportedOnceAndADamagedOneAtStart) {
   std::filesystem::create_directory(progressPath(home.folder()));  // a folder where the file should be
   auto session = run(1);
-  select(*session, 3, 6);
+  hoverOn(*session, 3, 6);
   session->type('a');
   const CommandResult failed = session->saveProgress();
   ASSERT_EQ(failed.messages.size(), 1u);

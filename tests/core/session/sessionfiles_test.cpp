@@ -9,41 +9,16 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 #include "core/files/config.h"
 #include "core/files/programfiles.h"
 #include "core/session/gamesession.h"
-#include "support/gamedata.h"
-#include "support/tempfolder.h"
+#include "sessiontest.h"
 
 namespace combwise {
 namespace {
 
 using ::testing::HasSubstr;
-
-class QuietHost : public SessionHost {
- public:
-  int ask(const std::string&, const std::string&) override { return kAnswerYes; }
-  bool confirm(const std::string&) override { return true; }
-  std::string chooseFile(const FileQuestion& question) override {
-    questions.push_back(question);
-    std::string path;
-    std::swap(path, nextFile);
-    return path;
-  }
-  void tell(const Message& message) override { told.push_back(message); }
-
-  std::string nextFile;  // empty: the dialog is cancelled
-  std::vector<FileQuestion> questions;
-  std::vector<Message> told;
-};
-
-std::string writeLines(const std::string& path, const std::vector<std::string>& lines) {
-  std::ofstream out(path, std::ios::binary);
-  for (const auto& line : lines) out << line << "\r\n";
-  return path;
-}
 
 std::vector<std::string> namesIn(const std::string& folder) {
   std::vector<std::string> names;
@@ -55,7 +30,7 @@ std::vector<std::string> namesIn(const std::string& folder) {
 
 // A program folder with the game's word data, either as a build leaves it
 // or installed where it cannot be written, with the user's folders beside.
-class SessionFilesTest : public ::testing::Test {
+class SessionFilesTest : public testing::SessionTest {
  protected:
   void SetUp() override {
     std::filesystem::create_directories(program);
@@ -63,28 +38,22 @@ class SessionFilesTest : public ::testing::Test {
       std::filesystem::copy_file(testing::gameDataPath(name), program + name);
   }
   ProgramFiles installed() const {
-    return ProgramFiles(program, {root.file("cfg") + "/", root.file("data") + "/"}, false);
-  }
-  CommandResult open(GameSession& session, const std::string& path) {
-    host.nextFile = path;
-    return session.loadCollection();
+    return ProgramFiles(program, {home.file("cfg") + "/", home.file("data") + "/"}, false);
   }
 
-  TempFolder root;
-  std::string program = root.file("program") + "/";
-  QuietHost host;
+  std::string program = home.file("program") + "/";
 };
 
 TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) {
-  const std::string collection = writeLines(root.file("ten.txt"), testing::readymadeSevens(10));
+  const std::string set = collection("ten.txt", 10);
   const std::vector<std::string> programBefore = namesIn(program);
   {
     // The user's own settings are read rather than the program folder's.
     Settings own;
-    own.collectionPath = collection;
+    own.collectionPath = set;
     own.PuzzleNumber = 4;
-    std::filesystem::create_directories(root.file("cfg"));
-    ASSERT_TRUE(SavecfgFile(root.file("cfg") + "/", own).ok());
+    std::filesystem::create_directories(home.file("cfg"));
+    ASSERT_TRUE(SavecfgFile(home.file("cfg") + "/", own).ok());
     Settings other;
     other.PuzzleNumber = 9;
     ASSERT_TRUE(SavecfgFile(program, other).ok());
@@ -97,16 +66,16 @@ TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) 
   session.arrow(2, 1);
   EXPECT_TRUE(session.exit().close);
   Settings saved;
-  ReadcfgFile(root.file("cfg") + "/", program, saved);
+  ReadcfgFile(home.file("cfg") + "/", program, saved);
   EXPECT_EQ(saved.PuzzleNumber, 5);
   EXPECT_EQ(saved.dictionaryPath, program + kDefaultDictionaryFile);
 
   // A created puzzle passes through the user's data folder, and the save
   // dialog starts there.
   EXPECT_EQ(session.create().status, "Puzzle created ...");
-  EXPECT_TRUE(std::filesystem::is_regular_file(root.file("data") + "/" + kTemporaryPuzzleFile));
+  EXPECT_TRUE(std::filesystem::is_regular_file(home.file("data") + "/" + kTemporaryPuzzleFile));
   session.savePuzzle();
-  EXPECT_EQ(host.questions.back().defaultDir, root.file("data") + "/");
+  EXPECT_EQ(host.questions.back().defaultDir, home.file("data") + "/");
 
   std::filesystem::remove(program + kConfigFile);
   EXPECT_EQ(namesIn(program), programBefore);
@@ -114,17 +83,17 @@ TEST_F(SessionFilesTest, AnInstalledGameReadsAndWritesItsFilesInTheUserFolders) 
 
 TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
   const std::vector<std::string> lines = testing::readymadeSevens(3);
-  const std::string collection = writeLines(root.file("three.txt"), lines);
+  const std::string set = testing::writeCrLf(home.file("three.txt"), lines);
   GameSession session(installed(), host);
   session.startUp();
-  open(session, collection);
+  host.open(session, set);
   session.arrow(2, 1);
   const PuzzleState before = session.puzzle();
   const int sizeBefore = session.board().size();
   ASSERT_EQ(before.PuzzleNumber, 2);
 
   // The temporary puzzle cannot be written where a folder stands in its way.
-  std::filesystem::create_directories(root.file("data") + "/" + kTemporaryPuzzleFile);
+  std::filesystem::create_directories(home.file("data") + "/" + kTemporaryPuzzleFile);
   session.nextSize();  // a size other than the shown one
   const CommandResult failed = session.create();
   ASSERT_EQ(failed.messages.size(), 1u);
@@ -138,11 +107,11 @@ TEST_F(SessionFilesTest, AFailedCreateLeavesTheShownPuzzleAndSaveWritesIt) {
   EXPECT_EQ(after.ClueTexts, before.ClueTexts);
   EXPECT_EQ(after.PuzzleNumber, 2);
   EXPECT_EQ(after.PuzzleCount, 3);
-  EXPECT_EQ(after.CollectionPath, collection);
+  EXPECT_EQ(after.CollectionPath, set);
 
-  host.nextFile = root.file("saved.txt");
+  host.files.push_back(home.file("saved.txt"));
   session.savePuzzle();
-  EXPECT_EQ(TempFolder::contentOf(root.file("saved.txt")), lines[1] + "\r\n");
+  EXPECT_EQ(TempFolder::contentOf(home.file("saved.txt")), lines[1] + "\r\n");
 }
 
 TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
@@ -150,48 +119,52 @@ TEST_F(SessionFilesTest, ReadErrorsNameTheFileTheLineAndTheCause) {
   GameSession session(program, host);
   session.startUp();
 
-  const std::string damaged = writeLines(root.file("damaged.txt"), {good[0], "7;ABC;NOCOMMA;", good[2]});
-  open(session, damaged);
+  const std::string damaged = testing::writeCrLf(home.file("damaged.txt"), {good[0], "7;ABC;NOCOMMA;", good[2]});
+  host.open(session, damaged);
   const CommandResult next = session.arrow(2, 1);
   EXPECT_EQ(next.status, "Error reading puzzle");
   EXPECT_THAT(*next.statusTip, HasSubstr(damaged + ", line 2: "));
-  EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");  // past the bad one
+  EXPECT_EQ(session.puzzle().PuzzleNumber, 2);  // the new number, so the arrows go on past it
+  EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");
   EXPECT_EQ(session.puzzle().PuzzleNumber, 3);
 
-  const std::string pipe = root.file("pipe.txt");
+  const std::string pipe = home.file("pipe.txt");
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-  const CommandResult piped = open(session, pipe);
+  const CommandResult piped = host.open(session, pipe);
   EXPECT_EQ(piped.status, "Error loading puzzle file");
-  EXPECT_THAT(*piped.statusTip, HasSubstr("not a regular file"));
-  EXPECT_THAT(*piped.statusTip, HasSubstr(pipe));
-  EXPECT_EQ(session.puzzle().CollectionPath, damaged);
+  EXPECT_THAT(*piped.statusTip, HasSubstr(pipe + ": it is not a regular file"));
   // A recent file that has become a pipe says so rather than that it is missing.
   std::filesystem::remove(damaged);
   ASSERT_EQ(::mkfifo(damaged.c_str(), 0600), 0);
   const CommandResult recent = session.openRecent(0);
   ASSERT_EQ(recent.messages.size(), 1u);
   EXPECT_THAT(recent.messages[0].text, HasSubstr("not a regular file"));
+
+  // A collection that cannot be read leaves the one shown before.
+  EXPECT_EQ(host.open(session, testing::writeCrLf(home.file("bad.txt"), {"7;ABC;NOCOMMA;"})).status,
+            "Error loading puzzle file");
+  EXPECT_EQ(host.open(session, testing::writeCrLf(home.file("empty.txt"), {})).status, "No puzzles in empty.txt");
+  EXPECT_EQ(session.puzzle().CollectionPath, damaged);
+  EXPECT_EQ(session.puzzle().PuzzleCount, 3);
 }
 
 TEST_F(SessionFilesTest, ADamagedFirstPuzzleAtStartKeepsTheCollectionReachable) {
   const std::vector<std::string> good = testing::readymadeSevens(3);
-  const std::string collection = writeLines(root.file("c.txt"), {std::string(3000, '\x01'), good[1], good[2]});
+  const std::string set = testing::writeCrLf(home.file("c.txt"), {std::string(3000, '\x01'), good[1], good[2]});
   GameSession session(program, host);
-  session.startUp();
-  session.setStartCollection(collection, 1);
-  const CommandResult started = session.startStep();
+  const CommandResult started = start(session, set);
   EXPECT_EQ(started.status, "Error reading puzzle");
-  EXPECT_THAT(*started.statusTip, HasSubstr(collection + ", line 1: "));
+  EXPECT_THAT(*started.statusTip, HasSubstr(set + ", line 1: "));
   EXPECT_EQ(session.arrow(2, 1).status, "Puzzle read");
   EXPECT_EQ(session.puzzle().PuzzleNumber, 2);
 }
 
 TEST_F(SessionFilesTest, AMissingMeaningsFileIsToldOnceWhenFirstNeeded) {
   std::filesystem::remove(program + kMeaningsFile);
-  const std::string collection = writeLines(root.file("three.txt"), testing::readymadeSevens(3));
+  const std::string set = collection("three.txt", 3);
   GameSession session(program, host);
-  session.startUp();
-  session.setStartCollection(collection, 1);
+  session.startUp();  // no scheme file beside the program: a notice of its own
+  session.setStartCollection(set, 1);
   const CommandResult started = session.startStep();
   ASSERT_EQ(started.messages.size(), 1u);
   EXPECT_THAT(started.messages[0].text, HasSubstr(program + kMeaningsFile));
@@ -200,8 +173,8 @@ TEST_F(SessionFilesTest, AMissingMeaningsFileIsToldOnceWhenFirstNeeded) {
   EXPECT_TRUE(session.arrow(2, 1).messages.empty());
 }
 
-TEST_F(SessionFilesTest, StartUpNoticesNameTheSettingsFileOrTheSchemeFileAndShowNoRawBytes) {
-  writeLines(program + kConfigFile, {"\x01\xfe\x7fgarbage.col", "", "", "Arial", " 2000  -1  500 "});
+TEST_F(SessionFilesTest, SettingsAndSchemeNoticesNameTheirFileAndCauseAndShowNoRawBytes) {
+  testing::writeCrLf(program + kConfigFile, {"\x01\xfe\x7fgarbage.col", "", "", "Arial", " 2000  -1  500 "});
   GameSession session(program, host);
   const CommandResult started = session.startUp();
   ASSERT_EQ(started.messages.size(), 2u);
@@ -212,17 +185,13 @@ TEST_F(SessionFilesTest, StartUpNoticesNameTheSettingsFileOrTheSchemeFileAndShow
     EXPECT_EQ(message.text.find("garbage"), std::string::npos) << message.text;
     EXPECT_EQ(message.text.find('\x01'), std::string::npos);
   }
-}
 
-TEST_F(SessionFilesTest, SaveOptionsThatCannotBeWrittenSayWhy) {
-  GameSession session(program, host);
-  session.startUp();
   // A folder in the settings file's place stops even a privileged user.
+  std::filesystem::remove(program + kConfigFile);
   std::filesystem::create_directories(program + kConfigFile + "/x");
   const CommandResult saved = session.saveOptions();
   ASSERT_TRUE(saved.status.has_value());
-  EXPECT_THAT(*saved.status, HasSubstr(program + kConfigFile));
-  EXPECT_THAT(*saved.status, HasSubstr(": "));
+  EXPECT_THAT(*saved.status, HasSubstr(program + kConfigFile + ": "));
 }
 
 }  // namespace
