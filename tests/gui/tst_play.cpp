@@ -78,14 +78,12 @@ class TestPlay : public QObject {
     QVERIFY(game.start());
     BoardPicture* picture = game.window->boardPicture();
     game.select(3, 6);
-    QCOMPARE(game.status(), QString("Hex = 4"));
     game.type('k');
     game.type('j');
     game.click("cmdundo");
     QCOMPARE(game.entry(3, 6), QString("K"));
     const QPoint marker = picture->marker()->pos();
     game.press(Qt::Key_Right);
-    QCOMPARE(game.puzzle().SelCol, 7);
     QVERIFY(picture->marker()->pos() != marker);
 
     QTest::mouseMove(game.find<QWidget>("picouter"), QPoint(30, 30));
@@ -170,7 +168,6 @@ class TestPlay : public QObject {
     const ClueSpan third = *cluesOfHexagon(clues->panel(), 3).inside;
     clues->move(0, 0);
     QTest::mouseClick(clues, Qt::LeftButton, {}, QPoint(40, qRound((third.top + third.bottom) / 2 / perPixel)));
-    QCOMPARE(game.status(), QString("Hex = 3"));
     QCOMPARE(game.window->board().HexAt(game.puzzle().SelRow, game.puzzle().SelCol), 3);
     QCOMPARE(clues->highlightedHexagon(), 3);
   }
