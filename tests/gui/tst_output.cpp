@@ -122,9 +122,7 @@ class TestOutput : public QObject {
       form.findChild<QAbstractButton*>("cmdOK")->click();
     });
     game.trigger("mnuprint");
-    // Four puzzles on pages of their own and one page of keys, in the
-    // preview as in the file.
-    QCOMPARE(pageCount(previewed), 5);
+    QCOMPARE(pageCount(previewed), 5);  // four puzzles and a page of keys
     QCOMPARE(pageCount(booklet), 5);
     QVERIFY(pdfText(booklet).contains("Class 4b"));
 
@@ -270,7 +268,6 @@ class TestOutput : public QObject {
     game.trigger("mnurandomize");
     const QString output = game.folder.path("ten-noduprandom.txt");
     QCOMPARE(game.prompter.notices.last(), output + " randomized");
-    QVERIFY(game.status().startsWith("random"));
     QFile copy(output);
     QVERIFY(copy.open(QIODevice::ReadOnly));
     QCOMPARE(copy.readAll().count('\n'), 4);
