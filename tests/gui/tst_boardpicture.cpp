@@ -1,7 +1,6 @@
-// The board picture as the player sees it: outlines on their pixels, the
-// letter under the selection marker stays readable, and the highlighted
-// hexagon shows over the fill.
-#include <QPainter>
+// The board picture as the player sees it: the letter under the selection
+// marker stays readable, and the highlighted hexagon shows over the fill.
+// Where the outlines lie is the board scene's test.
 #include <QtTest>
 
 #include "gui/play/boardpicture.h"
@@ -11,12 +10,12 @@ namespace combwise {
 class TestBoardPicture : public QObject {
   Q_OBJECT
 
-  // A board at 15 twips a pixel; by default a size-7 board zoomed large
-  // enough for its pixels to be told apart.
+  // A size-7 board at 15 twips a pixel, zoomed large enough for its pixels
+  // to be told apart.
   struct Picture {
-    explicit Picture(int size = 7, int cellWidth = 900, int cellHeight = 1500) {
-      setUpPuzzle(board, state, size);
-      layout = LayOutBoard({size, board.rows(), board.cols(), cellWidth, cellHeight, 15, 15});
+    Picture() {
+      setUpPuzzle(board, state, 7);
+      layout = LayOutBoard({7, board.rows(), board.cols(), 900, 1500, 15, 15});
       picture.applyLayout();
       BoardView view;
       view.font = boardFont("DejaVu Sans", 40);
@@ -38,32 +37,6 @@ class TestBoardPicture : public QObject {
   }
 
  private slots:
-  void outlineCornersOfHexagonOneOfSize22LandOnTheirPixels() {
-    Picture p(22, 225, 375);
-    BoardView view;
-    view.colours.outline = Qt::black;
-    view.colours.fill = Qt::white;
-    p.picture.setView(view);
-    QImage image(p.layout.pictureWidth / 15, p.layout.pictureHeight / 15, QImage::Format_RGB32);
-    image.setDotsPerMeterX(3780);  // 96 dots per inch: 15 twips a pixel
-    image.setDotsPerMeterY(3780);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    p.picture.paintOn(painter);
-    painter.end();
-    const auto darkest = [&image](QPoint at) {
-      int value = 255;
-      for (int dx = -1; dx <= 0; ++dx)
-        for (int dy = -1; dy <= 0; ++dy) value = qMin(value, qGray(image.pixel(at.x() + dx, at.y() + dy)));
-      return value;
-    };
-    for (const QPoint corner :
-         {QPoint(74, 13), QPoint(59, 38), QPoint(74, 63), QPoint(104, 63), QPoint(119, 38), QPoint(104, 13)})
-      QVERIFY2(darkest(corner) < 100, qPrintable(QString("corner %1,%2").arg(corner.x()).arg(corner.y())));
-    QCOMPARE(qGray(image.pixel(80, 30)), 255);  // inside, away from the lines: the fill
-    QCOMPARE(qGray(image.pixel(50, 5)), 255);   // outside every hexagon
-  }
-
   void theLetterUnderTheMarkerStaysReadable() {
     Picture p;
     p.state.Entries.at(3, 8).assign(1, 'W');

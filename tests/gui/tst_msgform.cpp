@@ -65,17 +65,14 @@ class TestMsgForm : public QObject {
     MsgForm form;
     form.prepareMessage("One line", "vbok");
     const int oneLabel = form.label()->height();
-    const int oneTop = form.button(0)->y();
     const int oneForm = form.height();
     QVERIFY(!form.button(0)->isHidden() && form.button(1)->isHidden());
 
     form.prepareMessage("First\r\nSecond\nThird\rFourth", "vbquestion+vbexclamation+vbyesno");
     const QLabel* label = form.label();
-    QCOMPARE(label->text().count('\n'), 3);
     const double lineHeight = (label->height() - oneLabel) / 3.0;
     const int lineSpacing = QFontMetrics(label->font()).lineSpacing();
     QVERIFY2(lineHeight >= lineSpacing - 0.5 && lineHeight <= lineSpacing + 2, qPrintable(QString::number(lineHeight)));
-    QCOMPARE(form.button(0)->y() - oneTop, label->height() - oneLabel);
     QCOMPARE(form.height() - oneForm, label->height() - oneLabel);
     QVERIFY(form.button(0)->y() > label->geometry().bottom());
     QCOMPARE(form.button(0)->Caption() + form.button(1)->Caption(), QString("YesNo"));
@@ -114,18 +111,17 @@ class TestMsgForm : public QObject {
     QVERIFY(boxActive);
     QVERIFY(!box->isVisible());
     QCOMPARE(&prompter.messageForm(), box);
-    QCOMPARE(box->windowTitle(), QString("Combwise Message"));
 
     // The plain Yes/No question keeps the file when Enter is pressed.
-    QString title;
-    testing::onModal([&title](QWidget& modal) {
+    bool asked = false;
+    testing::onModal([&asked](QWidget& modal) {
       if (auto* question = qobject_cast<QMessageBox*>(&modal)) {
-        title = question->windowTitle();
+        asked = true;
         QTest::keyClick(question, Qt::Key_Return);
       }
     });
     QVERIFY(!prompter.confirm("Overwrite clues.txt?"));
-    QCOMPARE(title, QString("Combwise"));
+    QVERIFY(asked);
   }
 };
 

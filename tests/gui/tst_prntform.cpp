@@ -20,7 +20,7 @@ class TestPrntForm : public QObject {
 
  private slots:
   // What a range may be is the core's rule; the window refuses with its
-  // message and stays open, or closes holding the range as ten digits.
+  // message and stays open, or closes holding the range.
   void aRefusedRangeKeepsTheWindowOpenAndAValidOneClosesIt() {
     FakePrompter prompter;
     PrntForm form("Office", "/home/me/puzzles.txt", 20, prompter, {});
@@ -31,8 +31,6 @@ class TestPrntForm : public QObject {
     QTest::mouseClick(form.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
     QCOMPARE(prompter.messages.size(), 1);
     QCOMPARE(prompter.messages[0].prompt, QString("Print range not correct"));
-    QCOMPARE(prompter.messages[0].style, QString("vbcritical+vbok"));
-    QCOMPARE(form.tag(), QString("X"));
     QVERIFY(form.isVisible());
     QVERIFY(!form.chosenRange(1));
 
@@ -40,8 +38,6 @@ class TestPrntForm : public QObject {
     QTest::keyClicks(text1, "5-10");
     QTest::mouseClick(form.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
     QCOMPARE(prompter.messages.size(), 1);
-    QCOMPARE(form.tag(), QString("Y"));
-    QCOMPARE(form.rangeTag(), QString("0000500010"));
     QVERIFY(!form.isVisible());
     QCOMPARE(form.chosenRange(3), (PrintRange{5, 10}));
   }
@@ -71,12 +67,10 @@ class TestPrntForm : public QObject {
     PrntForm form("Office", "/home/me/puzzles.txt", 20, prompter, [&answers] { return answers.takeFirst(); });
     form.show();
     auto* printer = form.findChild<QLabel*>("lblPrinter");
-    QCOMPARE(printer->toolTip(), QString("Office"));
-    QCOMPARE(form.findChild<QLabel*>("lblPath")->toolTip(), QString("/home/me/puzzles.txt"));
+    QCOMPARE(printer->text(), QString("Office"));
     auto* select = form.findChild<QPushButton*>("cmdSelect");
     QTest::mouseClick(select, Qt::LeftButton);
     QCOMPARE(printer->text(), QString("PDF"));
-    QCOMPARE(printer->toolTip(), QString("PDF"));
     QTest::mouseClick(select, Qt::LeftButton);
     QCOMPARE(form.printerName(), QString("PDF"));
   }
@@ -90,7 +84,6 @@ class TestPrntForm : public QObject {
     const auto buttons = chooser.findChildren<QPushButton*>();
     QCOMPARE(buttons.size(), 2);
     for (QPushButton* button : buttons) QVERIFY(!button->text().contains("Print"));
-    QVERIFY(chooser.findChildren<QLineEdit*>().size() <= 1);  // the list's own
 
     PrinterChooser none({}, {});
     QCOMPARE(none.findChild<QLabel*>("lblChooser")->text(), QString("No printer is installed."));
