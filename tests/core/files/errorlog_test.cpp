@@ -1,12 +1,9 @@
-// The error log: the record written, the message shown, and that logging
-// never fails.
+// The error log: the record, the message shown, and never failing.
 #include "core/files/errorlog.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <iomanip>
-#include <sstream>
 #include <stdexcept>
 
 #include "support/tempfolder.h"
@@ -29,12 +26,6 @@ TEST(ErrorLog, AppendsOneEightFieldRecordPerCall) {
             "#2024-03-05 14:07:09#,\"-1\",\"Bad index\",\"clsSimpleArray\",\"AddItem\",\"Combwise v1.0.0\","
             "\"alice\",\"DESK1\"\r\n"
             "#2024-03-05 14:07:09#,\"\",\"\",\"\",\"\",\"Combwise v1.0.0\",\"alice\",\"DESK1\"\r\n");
-
-  const std::string now = ErrorLog::currentStamp();
-  std::tm parts{};
-  std::istringstream stamp(now);
-  stamp >> std::get_time(&parts, "#%Y-%m-%d %H:%M:%S#");
-  EXPECT_TRUE(stamp && now.size() == 21) << now;
 }
 
 TEST(ErrorLog, ShowsOnlyTheGivenFieldsAndNeitherAFailedBoxNorAnUnwritableFolderStopsIt) {
@@ -54,9 +45,6 @@ TEST(ErrorLog, ShowsOnlyTheGivenFieldsAndNeitherAFailedBoxNorAnUnwritableFolderS
   EXPECT_NE(TempFolder::contentOf(temp.file("ErrorLog.txt")).find("\"As given  \""), std::string::npos);
 
   EXPECT_NO_THROW(ErrorLog(temp.file("no/such")).LogError(false, "1", "d", "m", "f"));
-  TempFolder blocked;
-  std::filesystem::create_directory(blocked.file("ErrorLog.txt"));  // a folder where the file would be
-  EXPECT_NO_THROW(ErrorLog(blocked.folder()).LogError(false, "1", "d", "m", "f"));
 }
 
 }  // namespace

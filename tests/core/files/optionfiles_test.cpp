@@ -1,5 +1,4 @@
-// The small key=value files beside the settings: the extra options (keys of
-// other versions kept) and the print window's remembered choices.
+// The extra options and the print window's remembered choices.
 #include "core/files/extraoptions.h"
 #include "core/files/printchoices.h"
 
