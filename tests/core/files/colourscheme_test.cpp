@@ -24,7 +24,6 @@ class SchemeFile : public ::testing::Test {
 };
 
 TEST_F(SchemeFile, ListHoldsTheTextBeforeColOfEveryLineContainingIt) {
-  EXPECT_EQ(file, schemeFilePath(folder.folder()));
   EXPECT_EQ(schemeList(file), (std::vector<std::string>{"xp", "blue", "short", "my old colours"}));
   EXPECT_TRUE(schemeList(folder.file("missing.col")).empty());
   EXPECT_EQ(schemeListEntry("a.col.col"), "a");

@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "core/files/sortedkeylist.h"
 #include "core/files/textfile.h"
 #include "support/tempfolder.h"
 
@@ -38,23 +37,14 @@ TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCou
   EXPECT_THAT(dictionary.Words5.items(), ElementsAre("TEARS"));
   EXPECT_THAT(dictionary.Words6.items(), ElementsAre("STREAM", "ABCDEF", "MASTER"));
   EXPECT_THAT(dictionary.SixLetterKeys.items(), ElementsAre("ABCDEFABCDEF", "AEMRSTMASTER", "AEMRSTSTREAM"));
-  EXPECT_EQ(dictionary.SixLetterKeys.firstWithPrefix("aemrst"), 1);
+  EXPECT_EQ(dictionary.SixLetterKeys.firstWithPrefix("aemrst"), 1);  // case-blind
+  EXPECT_EQ(dictionary.SixLetterKeys.firstWithPrefix("ABD"), -1);
 
   const std::string second = folder.file("second.txt");
   ASSERT_TRUE(writeLines(second, {"SEVENTH", "LETTERS", "EIGHTEEN"}, WriteMode::Truncate));
   ASSERT_TRUE(readDictionary(second, dictionary).ok());  // replaces, never merges
   EXPECT_TRUE(dictionary.empty());
   EXPECT_TRUE(dictionary.SixLetterKeys.empty());
-}
-
-TEST(SortedKeyList, KeepsCaseBlindOrderAndFindsTheFirstEntryWithAPrefix) {
-  SortedKeyList keys;
-  EXPECT_EQ(keys.firstWithPrefix("A"), -1);
-  for (const char* key : {"beta", "Alpha", "alphabet", "gamma", "ALPHA", "Zed"}) keys.insert(key);
-  EXPECT_THAT(keys.items(), ElementsAre("Alpha", "ALPHA", "alphabet", "beta", "gamma", "Zed"));
-  EXPECT_EQ(keys.firstWithPrefix("ALPHAB"), 2);
-  EXPECT_EQ(keys.firstWithPrefix("z"), 5);
-  EXPECT_EQ(keys.firstWithPrefix("alphas"), -1);
 }
 
 TEST(MeaningsFile, TheMeaningNumberPicksTheLineAndAnythingElseGivesNoClue) {
