@@ -67,7 +67,6 @@ TEST_F(ConfigFile, BlankRecentEntriesAreHiddenWithTheirCaptionKept) {
   defaults.recentFiles[0] = {"/old/caption.txt", true};
   const Settings settings =
       readBack({"a", "b", "c", "d", "1,2,3,4,5,6,7,8,9", "   ", "/a/1.txt", "", "\t", "/e/5.txt"});
-  EXPECT_EQ(settings.schemeColour13, 9);
   EXPECT_EQ(settings.recentFiles[0], (RecentFile{"/old/caption.txt", false}));  // written as it stood on the next save
   EXPECT_EQ(settings.recentFiles[1], (RecentFile{"/a/1.txt", true}));
   EXPECT_FALSE(settings.recentFiles[2].shown || settings.recentFiles[3].shown);
