@@ -1,5 +1,4 @@
-// Files written whole or not at all: a full disk met at any write leaves
-// the old file and no temporary file, and says why.
+// Files written whole or not at all.
 #include "core/files/atomicfile.h"
 
 #include <gtest/gtest.h>

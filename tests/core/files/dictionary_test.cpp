@@ -1,17 +1,14 @@
-// The dictionary pools, the anagram keys and their case-blind list, and clue
-// lookup by meaning number.
+// The dictionary pools, the anagram keys and the meanings.
 #include "core/files/dictionary.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 
-#include "core/files/sortedkeylist.h"
 #include "core/files/textfile.h"
 #include "support/tempfolder.h"
 
@@ -40,25 +37,14 @@ TEST(DictionaryFile, WordsGoToThePoolOfTheirLengthInUpperCaseAndOtherLinesAreCou
   EXPECT_THAT(dictionary.Words5.items(), ElementsAre("TEARS"));
   EXPECT_THAT(dictionary.Words6.items(), ElementsAre("STREAM", "ABCDEF", "MASTER"));
   EXPECT_THAT(dictionary.SixLetterKeys.items(), ElementsAre("ABCDEFABCDEF", "AEMRSTMASTER", "AEMRSTSTREAM"));
-  EXPECT_EQ(dictionary.SixLetterKeys.firstWithPrefix("aemrst"), 1);
+  EXPECT_EQ(dictionary.SixLetterKeys.firstWithPrefix("aemrst"), 1);  // case-blind
+  EXPECT_EQ(dictionary.SixLetterKeys.firstWithPrefix("ABD"), -1);
 
   const std::string second = folder.file("second.txt");
   ASSERT_TRUE(writeLines(second, {"SEVENTH", "LETTERS", "EIGHTEEN"}, WriteMode::Truncate));
   ASSERT_TRUE(readDictionary(second, dictionary).ok());  // replaces, never merges
   EXPECT_TRUE(dictionary.empty());
   EXPECT_TRUE(dictionary.SixLetterKeys.empty());
-}
-
-TEST(SortedKeyList, KeepsCaseBlindOrderAndFindsTheFirstEntryWithAPrefix) {
-  SortedKeyList keys;
-  EXPECT_EQ(keys.firstWithPrefix("A"), -1);
-  for (const char* key : {"beta", "Alpha", "alphabet", "gamma", "ALPHA", "Zed"}) keys.insert(key);
-  EXPECT_THAT(keys.items(), ElementsAre("Alpha", "ALPHA", "alphabet", "beta", "gamma", "Zed"));
-  EXPECT_EQ(keys.firstWithPrefix("al"), 0);
-  EXPECT_EQ(keys.firstWithPrefix("ALPHAB"), 2);
-  EXPECT_EQ(keys.firstWithPrefix("z"), 5);
-  EXPECT_EQ(keys.firstWithPrefix("alphas"), -1);
-  EXPECT_EQ(keys.firstWithPrefix("delta"), -1);
 }
 
 TEST(MeaningsFile, TheMeaningNumberPicksTheLineAndAnythingElseGivesNoClue) {
@@ -103,14 +89,9 @@ TEST(MeaningsFile, RunningOutOfMemoryIsAnErrorThatNamesTheFile) {
   GTEST_SKIP() << "the address sanitizer reserves more address space than the limit allows";
 #else
   TempFolder folder;
-  const std::string path = folder.file("mean3456.txt");
-  {
-    // One line of a gigabyte, made without writing it (the file is sparse).
-    std::FILE* file = std::fopen(path.c_str(), "wb");
-    ASSERT_NE(file, nullptr);
-    ASSERT_EQ(ftruncate(fileno(file), 1LL << 30), 0);
-    std::fclose(file);
-  }
+  // One line of a gigabyte, made without writing it (the file is sparse).
+  const std::string path = folder.write("mean3456.txt", "");
+  std::filesystem::resize_file(path, 1LL << 30);
   EXPECT_EXIT(
       {
         rlimit limit{};

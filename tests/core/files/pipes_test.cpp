@@ -1,6 +1,4 @@
-// Every reader and writer of the program's files, handed a named pipe where
-// a file should be: each refuses it at once with the cause, instead of
-// waiting for the other end that never comes.
+// Every reader and writer refuses a named pipe at once with the cause.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -1,5 +1,4 @@
-// The collection line format, and writing, counting and reading puzzles
-// with the puzzle state's lifecycle.
+// The collection line format, and writing, counting and reading puzzles.
 #include "core/files/puzzlefile.h"
 
 #include <gmock/gmock.h>
@@ -81,7 +80,6 @@ TEST_F(CollectionFile, WrittenPuzzlesReadBackAndTheBoardIsRebuiltOnlyOnASizeSwit
   EXPECT_EQ(withDefaultExtension(folder.file("set")), path);
   EXPECT_EQ(withDefaultExtension("my.files/puz"), "my.files/puz");
   EXPECT_EQ(withDefaultExtension("/tmp/range", kPdfExtension), "/tmp/range.pdf");
-  EXPECT_EQ(withDefaultExtension("range.txt", kPdfExtension), "range.txt");
   state.Entries.at(3, 6) = "Q";
   state.SelRow = 3;
   state.UndoList.push_front("record");
@@ -113,13 +111,9 @@ TEST_F(CollectionFile, BlankLinesCountAndNumbersOutsideTheCollectionLoadNothing)
 
   EXPECT_EQ(read(path, 2).message, "blank line");
   EXPECT_EQ(read(path, 4).message, "there is no puzzle 4: N must be from 1 to 3, or -1 for the last");
-  EXPECT_EQ(read(path, 0).outcome, ReadOutcome::BeyondCount);
   state.PuzzleCount = 5;  // the file shrank since it was counted
   EXPECT_EQ(readPuzzle(path, 5, board, state, {}).outcome, ReadOutcome::Unreadable);
   expectSamePuzzle(state, before);
-
-  EXPECT_EQ(read(path, -1).number, 3);
-  EXPECT_EQ(state.PuzzleSize, 17);
 
   const std::string empty = folder.file("empty.txt");
   ASSERT_TRUE(writeLines(empty, {}, WriteMode::Truncate));
@@ -136,9 +130,8 @@ TEST_F(CollectionFile, MalformedLinesLeaveTheShownPuzzleUntouched) {
   std::string words14;
   for (int i = 0; i < 14; ++i) words14 += "TEAR,1;";
   const std::string tooLong = "10;" + std::string(100, 'A') + ";", fifteenWords = "7;A;" + words14 + "SEAT,1;";
-  const std::vector<std::string> lines = {
-      "8;A;TEAR,1;", "abc;A;", "1e99;A;",   "22;A;TEAR;", "7;A;TEAR,99999999999;", tooLong, fifteenWords,
-      "7;",          "22;;",   "10;ABC;;;", "7"};
+  const std::vector<std::string> lines = {"8;A;TEAR,1;", "1e99;A;",    "22;A;TEAR;", "7;A;TEAR,99999999999;",
+                                          tooLong,       fifteenWords, "7;",         "22;;"};
   for (const std::string& line : lines) {
     EXPECT_EQ(loadPuzzleLine(line, board, state, {}).outcome, ReadOutcome::Malformed) << line;
     expectSamePuzzle(state, before);
@@ -172,7 +165,6 @@ TEST_F(CollectionFile, CluesComeFromTheMeaningsAndTheWordListsSkipEmptySlots) {
   const auto result = read(path, 1);
   ASSERT_TRUE(result.loaded());
   EXPECT_TRUE(result.clues.ok());
-  EXPECT_EQ(state.Letters.at(1, 6), "A");
   EXPECT_THAT(std::vector<std::string>(state.ClueTexts.begin() + 1, state.ClueTexts.begin() + 7),
               ElementsAre("a spree", "to sit", "", "drops", "", ""));
   const WordListLines lists = wordListLines(state);

@@ -1,6 +1,4 @@
-// Every shipped colour scheme, and the board as it looks before any
-// settings exist, keeps letters, numbers and lines readable on the
-// hexagons, also on a highlighted one.
+// Every shipped scheme and the start-up board keep the board readable.
 #include <gtest/gtest.h>
 
 #include "core/files/boardoptions.h"
@@ -23,9 +21,7 @@ void expectReadable(const std::string& what, const SchemeBoardColours& c) {
 
 TEST(SchemeContrast, RatiosFollowTheGuidelines) {
   EXPECT_DOUBLE_EQ(contrastRatio(rgb(0, 0, 0), rgb(255, 255, 255)), 21.0);
-  EXPECT_DOUBLE_EQ(contrastRatio(rgb(9, 9, 9), rgb(9, 9, 9)), 1.0);
   EXPECT_NEAR(contrastRatio(rgb(255, 255, 255), rgb(118, 118, 118)), 4.54, 0.01);
-  EXPECT_NEAR(contrastRatio(rgb(255, 0, 0), rgb(255, 255, 255)), 4.00, 0.01);
   EXPECT_EQ(blendColours(rgb(255, 0, 100), rgb(0, 255, 100), 0.5), rgb(128, 128, 100));
 }
 

