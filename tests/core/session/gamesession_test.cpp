@@ -1,7 +1,7 @@
 // The game session's command rules, driven through a scripted host: browsing
 // and its ends, recent files, start-up's choice of collection, undo and reset
 // with a declined question, verification, the guards while the session is
-// busy, save, exit and zoom.
+// busy, save, exit and the size to create.
 #include "core/session/gamesession.h"
 
 #include <gtest/gtest.h>
@@ -198,20 +198,13 @@ TEST_F(GameSessionTest, SaveAppendsTheShownPuzzleAndExitSavesTheSettingsOnlyWhen
   EXPECT_EQ(saved.collectionPath, home.file("ten.txt"));
 }
 
-TEST_F(GameSessionTest, TheSizeFollowsTheShownPuzzleAndZoomResetReturnsHome) {
+// Zoom steps are the layout's own test, and the window's test zooms and
+// resets the picture through its buttons.
+TEST_F(GameSessionTest, TheSizeToCreateFollowsTheShownPuzzle) {
   EXPECT_TRUE(has(session.nextSize().redraw, Redraw::Size));  // the cycle itself is the board's
   EXPECT_EQ(session.sizeToCreate(), 10);
   open(collection("ten.txt", 2));
   EXPECT_EQ(session.sizeToCreate(), 7);
-
-  const int fitted = session.layout().CellWidth;
-  const CommandResult in = session.zoom(1);
-  EXPECT_TRUE(has(in.redraw, Redraw::Layout));
-  EXPECT_FALSE(has(in.redraw, Redraw::BoardHome));
-  EXPECT_NE(session.layout().CellWidth, fitted);
-  EXPECT_TRUE(has(session.zoom(2).redraw, Redraw::BoardHome));
-  EXPECT_EQ(session.layout().CellWidth, fitted);
-  EXPECT_EQ(session.fontSize(), 10.0);
 }
 
 }  // namespace
