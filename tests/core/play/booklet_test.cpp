@@ -83,10 +83,6 @@ TEST(Booklet, OnePagePerPuzzleThenKeyPagesAllInsideThePrintableArea) {
     EXPECT_EQ(pages[8].texts.back().text, "Page 9 of 9");
     EXPECT_EQ(checkedClueLines(pages, paper, faces).size(), 2u * (4u * 14u + 3u * 20u));
   }
-  // Letter paper is wider and shorter than A4.
-  const BookletPaper letter = bookletPaper(kLetterWidth, kLetterHeight, 0, 0, 2000, 0);
-  EXPECT_EQ(letter.printable.width, kLetterWidth - kBookletMinMargin - 2000);
-  EXPECT_EQ(letter.printable.height, kLetterHeight - 2 * kBookletMinMargin);
 }
 
 TEST(Booklet, CluesThatCannotFitGoOnToTheNextPageAndNoneIsLost) {

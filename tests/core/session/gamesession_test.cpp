@@ -1,7 +1,7 @@
 // The game session's command rules, driven through a scripted host: browsing
 // and its ends, recent files, start-up's choice of collection, undo and reset
 // with a declined question, verification, the guards while the session is
-// busy, save, exit and zoom.
+// busy, save, exit and the size to create.
 #include "core/session/gamesession.h"
 
 #include <gtest/gtest.h>
@@ -94,9 +94,7 @@ TEST_F(GameSessionTest, StartOpensTheConfiguredPuzzleOrTheReadymadeOnesOrNothing
 
 TEST_F(GameSessionTest, TypingUndoAndARightClickResetDeclinedStillForgetTheUndoList) {
   open(collection("ten.txt", 10));
-  const CommandResult hovered = hoverOn(session, 3, 6);
-  EXPECT_EQ(hovered.status, "Hex = 4");
-  EXPECT_TRUE(has(hovered.redraw, Redraw::Marker));
+  EXPECT_TRUE(has(hoverOn(session, 3, 6).redraw, Redraw::Marker));
   EXPECT_TRUE(has(session.type('k').redraw, Redraw::Board));
   session.type('q');
   session.undo(1);
@@ -139,32 +137,23 @@ TEST_F(GameSessionTest, WhileBusyTheFileAndPlayCommandsDoNothing) {
   open(collection("ten.txt", 10));
   hoverOn(session, 3, 6);
   session.type('A');
-  std::vector<CommandResult> during;
   bool tried = false;
   host.duringEvents = [&] {
     if (tried) return;
     tried = true;
     EXPECT_FALSE(session.createEnabled());
     EXPECT_FALSE(session.outputReady());
-    during.push_back(session.loadCollection());
-    during.push_back(session.savePuzzle());
-    during.push_back(session.arrow(2, 1));
-    during.push_back(session.undo(1));
-    during.push_back(session.undo(2));
-    during.push_back(session.verifyPressed());
-    during.push_back(session.showSolutionPressed());
-    during.push_back(session.zoom(1));
-    during.push_back(session.create());
-    during.push_back(session.chooseDictionary());
-    during.push_back(session.randomize());
-    during.push_back(hoverOn(session, 3, 7));
-    during.push_back(session.type('B'));
+    const CommandResult during[] = {
+        session.loadCollection(), session.savePuzzle(),       session.arrow(2, 1),           session.undo(1),
+        session.undo(2),          session.verifyPressed(),    session.showSolutionPressed(), session.zoom(1),
+        session.create(),         session.chooseDictionary(), session.randomize(),           hoverOn(session, 3, 7),
+        session.type('B')};
+    for (const CommandResult& result : during) EXPECT_TRUE(result.empty());
     const CommandResult recent = session.openRecent(0);
     EXPECT_EQ(recent.messages, (std::vector<Message>{{"Cancel puzzle creation", "vbok+vbexclamation"}}));
   };
   session.readDictionary(home.file("english3.txt"));
   ASSERT_TRUE(tried);
-  for (const CommandResult& result : during) EXPECT_TRUE(result.empty());
   EXPECT_EQ(host.questions.size(), 1u);   // no file dialog opened while busy
   EXPECT_EQ(session.puzzle().SelRow, 0);  // the pointer selects nothing while busy
   EXPECT_EQ(number(), 1);
@@ -209,20 +198,13 @@ TEST_F(GameSessionTest, SaveAppendsTheShownPuzzleAndExitSavesTheSettingsOnlyWhen
   EXPECT_EQ(saved.collectionPath, home.file("ten.txt"));
 }
 
-TEST_F(GameSessionTest, TheSizeFollowsTheShownPuzzleAndZoomResetReturnsHome) {
+// Zoom steps are the layout's own test, and the window's test zooms and
+// resets the picture through its buttons.
+TEST_F(GameSessionTest, TheSizeToCreateFollowsTheShownPuzzle) {
   EXPECT_TRUE(has(session.nextSize().redraw, Redraw::Size));  // the cycle itself is the board's
   EXPECT_EQ(session.sizeToCreate(), 10);
   open(collection("ten.txt", 2));
   EXPECT_EQ(session.sizeToCreate(), 7);
-
-  const int fitted = session.layout().CellWidth;
-  const CommandResult in = session.zoom(1);
-  EXPECT_TRUE(has(in.redraw, Redraw::Layout));
-  EXPECT_FALSE(has(in.redraw, Redraw::BoardHome));
-  EXPECT_NE(session.layout().CellWidth, fitted);
-  EXPECT_TRUE(has(session.zoom(2).redraw, Redraw::BoardHome));
-  EXPECT_EQ(session.layout().CellWidth, fitted);
-  EXPECT_EQ(session.fontSize(), 10.0);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ class ScriptedHost : public SessionHost {
     questions.push_back(question);
     return next(files, std::string());
   }
-  void tell(const Message& message) override { told.push_back(message); }
+  void tell(const Message&) override {}
   void progress(const std::string& status) override { statuses.push_back(status); }
   void pumpEvents() override {
     if (duringEvents) duringEvents();
@@ -45,7 +45,6 @@ class ScriptedHost : public SessionHost {
   std::deque<int> answers;  // then Yes
   std::vector<FileQuestion> questions;
   std::deque<std::string> files;  // then the dialog is cancelled
-  std::vector<Message> told;
   std::vector<std::string> statuses;
   std::function<void()> duringEvents;
   int busyChanges = 0;
