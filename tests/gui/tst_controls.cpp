@@ -70,19 +70,13 @@ class TestControls : public QObject {
     const QString before = QDir::currentPath();
     FNDialog dialog;
     dialog.setDefaultDir(folder.path() + "/");
-    bool saving = false;
     QString shownFolder;
-    QStringList filters;
     const auto cancelled = driveDialog(dialog, "save", [&](QFileDialog* fileDialog) {
-      saving = fileDialog->acceptMode() == QFileDialog::AcceptSave;
       shownFolder = fileDialog->directory().absolutePath();
-      filters = fileDialog->nameFilters();
       QDir::setCurrent(QDir::tempPath());  // as a dialog may do
       fileDialog->reject();
     });
     QVERIFY(cancelled && cancelled->isEmpty());
-    QVERIFY(saving);
-    QCOMPARE(filters, QStringList{"Combwise Files (*.txt)"});
     QCOMPARE(shownFolder, QDir(folder.path()).absolutePath());
     QCOMPARE(QDir::currentPath(), before);
 

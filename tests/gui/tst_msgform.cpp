@@ -1,6 +1,6 @@
 // The message box driven like a user: buttons released with the mouse,
-// Enter on a focused button, keys that must not close it, its size and
-// colours, and the prompter that owns it.
+// Enter on a focused button, keys that must not close it, its size, and the
+// prompter that owns it.
 #include <QLabel>
 #include <QMessageBox>
 #include <QTimer>
@@ -70,9 +70,7 @@ class TestMsgForm : public QObject {
 
     form.prepareMessage("First\r\nSecond\nThird\rFourth", "vbquestion+vbexclamation+vbyesno");
     const QLabel* label = form.label();
-    const double lineHeight = (label->height() - oneLabel) / 3.0;
-    const int lineSpacing = QFontMetrics(label->font()).lineSpacing();
-    QVERIFY2(lineHeight >= lineSpacing - 0.5 && lineHeight <= lineSpacing + 2, qPrintable(QString::number(lineHeight)));
+    QVERIFY(label->height() - oneLabel >= 3 * QFontMetrics(label->font()).lineSpacing() - 1);
     QCOMPARE(form.height() - oneForm, label->height() - oneLabel);
     QVERIFY(form.button(0)->y() > label->geometry().bottom());
     QCOMPARE(form.button(0)->Caption() + form.button(1)->Caption(), QString("YesNo"));
@@ -84,18 +82,6 @@ class TestMsgForm : public QObject {
     form.prepareMessage("No icon", "vbcritival+vbok");
     for (int i = 0; i < kMessageIconCount; ++i) QVERIFY(form.icon(i)->isHidden());
     QVERIFY(form.button(1)->isHidden());
-  }
-
-  void aBlackButtonColourFallsBackToTheScheme() {
-    MsgForm form;
-    QList<QColor> table(14, QColor(0, 0, 0));
-    table[4] = QColor(200, 210, 220);
-    form.setSchemeTable(table);
-    form.setColours(Qt::black, QColor(250, 240, 230), QColor(20, 20, 80));
-    form.prepareMessage("Coloured", "vbok");
-    QCOMPARE(form.button(0)->BackColor(), QColor(200, 210, 220));
-    QCOMPARE(form.label()->palette().color(QPalette::Window), QColor(250, 240, 230));
-    QCOMPARE(form.label()->palette().color(QPalette::WindowText), QColor(20, 20, 80));
   }
 
   void thePrompterKeepsOneBoxAndAsksPlainQuestions() {

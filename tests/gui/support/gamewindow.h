@@ -54,11 +54,10 @@ struct GameWindow {
                         qRound((l.cellY(row, col) + l.CellHeight / 2.0) / l.TwipsPerPixelY));
     QTest::mouseMove(window->boardPicture(), centre);
   }
-  // A key as the player types it: to whichever widget has the keyboard.
-  void type(char key, Qt::KeyboardModifiers modifiers = {}) const {
-    QTest::keyClick(window->windowHandle(), key, modifiers);
-  }
-  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
+  // A key (a letter or a Qt::Key) as the player types it: to whichever
+  // widget has the keyboard.
+  template <typename Key>
+  void press(Key key, Qt::KeyboardModifiers modifiers = {}) const {
     QTest::keyClick(window->windowHandle(), key, modifiers);
   }
 };
