@@ -77,11 +77,6 @@ class TestMsgForm : public QObject {
     QVERIFY(!form.button(1)->isHidden() && form.button(2)->isHidden());
     for (int i = 0; i < kMessageIconCount; ++i) QCOMPARE(!form.icon(i)->isHidden(), i <= 1);
     QVERIFY(!form.icon(1)->pixmap().isNull());
-
-    // Each call starts afresh.
-    form.prepareMessage("No icon", "vbcritival+vbok");
-    for (int i = 0; i < kMessageIconCount; ++i) QVERIFY(form.icon(i)->isHidden());
-    QVERIFY(form.button(1)->isHidden());
   }
 
   void thePrompterKeepsOneBoxAndAsksPlainQuestions() {
