@@ -1,8 +1,10 @@
-// The options window: scheme choice and its missing-scheme notice, and Apply
-// handing over what the samples and colour labels took.
+// The options window: scheme choice and its missing-scheme notice, the
+// font list, and Apply handing over what the samples and colour labels took.
 #include <QComboBox>
 #include <QFile>
+#include <QFontDatabase>
 #include <QLabel>
+#include <QListWidget>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -61,6 +63,22 @@ class TestOptions : public QObject {
              QStringList{"Color Scheme: gone.col not found\n" + folder() + "all.col holds no scheme gone.col"});
     QCOMPARE(form.picker()->BackColor(), QColor(0, 0, 0));
     QCOMPARE(m_scheme, ColourScheme{});  // the window's scheme waits for Apply
+  }
+
+  void theFontListLeavesOutSymbolFontsAndFontsWithoutLatinLetters() {
+    Form2 form(m_settings, m_scheme, folder(), m_prompter);
+    const auto* list = child<QListWidget>(form, "lstFonts");
+    QStringList listed;
+    for (int i = 0; i < list->count(); ++i) listed << list->item(i)->text();
+    QVERIFY(!listed.isEmpty());
+    int leftOut = 0;
+    for (const QString& family : QFontDatabase::families()) {
+      const auto systems = QFontDatabase::writingSystems(family);
+      const bool letters = systems.contains(QFontDatabase::Latin) && !systems.contains(QFontDatabase::Symbol);
+      QVERIFY2(listed.contains(family) == letters, qPrintable(family));
+      leftOut += letters ? 0 : 1;
+    }
+    if (leftOut == 0) QSKIP("no symbol fonts installed to leave out");
   }
 
   void applyHandsOverTheChoice() {

@@ -105,19 +105,26 @@ class TestOutput : public QObject {
     QCOMPARE(game.prompter.messages.last().prompt, QString("2 puzzles printed"));
     QCOMPARE(game.puzzle().PuzzleNumber, 2);
 
+    const QString previewed = game.folder.path("preview.pdf");
+    game.output->setServices({game.printer.get(), &game.clipboard, {}, [&](const auto& draw) {
+                                PdfTarget preview(previewed);
+                                draw(preview);
+                              }});
     QVERIFY(QDir().mkpath(game.folder.path("out")));
     const QString booklet = game.folder.path("out/booklet.pdf");
     game.files.paths.enqueue(booklet);
     onPrintWindow([](QWidget& form) {
       printRange(form, "1-4", "optBooklet");
       form.findChild<QLineEdit*>("txtTitle")->setText("Class 4b");
+      form.findChild<QAbstractButton*>("cmdPreview")->click();
       form.findChild<QAbstractButton*>("cmdOK")->click();
     });
     game.trigger("mnuprint");
-    QCOMPARE(pageCount(booklet), 5);  // four puzzles and a page of keys
+    QCOMPARE(pageCount(previewed), 5);  // four puzzles and a page of keys
+    QCOMPARE(pageCount(booklet), 5);
     QVERIFY(pdfText(booklet).contains("Class 4b"));
 
-    // Opened again, the window offers the same choices.
+    // Opened again, the window offers the same choices and the PDF folder.
     bool remembered = false;
     onPrintWindow([&](QWidget& form) {
       remembered = form.findChild<QAbstractButton*>("chkPdf")->isChecked() &&
@@ -127,6 +134,8 @@ class TestOutput : public QObject {
     });
     game.trigger("mnuprint");
     QVERIFY(remembered);
+    QCOMPARE(QDir(game.files.requests.last().defaultDir).canonicalPath(),
+             QDir(game.folder.path("out")).canonicalPath());
 
     // A file that cannot be written in full says why instead of counting pages.
     FullDisk full(game.folder.path("full.pdf"));
@@ -265,19 +274,24 @@ class TestOutput : public QObject {
     QVERIFY(!QFile::exists(batch));
     QVERIFY(game.prompter.notices.isEmpty());
 
-    // While the batch runs, its window shows the count.
+    // While the batch runs, its window shows the count, and the status
+    // line does not stay on reading the word files.
     bool shown = false;
+    QStringList statuses;
     QTimer watch;
     connect(&watch, &QTimer::timeout, [&] {
       const auto* progress = game.window->findChild<QWidget*>("batchprogress");
       const auto* count = game.window->findChild<QLabel*>("lblbatchcount");
-      shown = shown || (progress && count && count->text() != "Puzzles made: 0" && progress->isVisible());
+      if (!progress || !count || count->text() == "Puzzles made: 0") return;
+      shown = shown || progress->isVisible();
+      statuses << game.window->statusText();
     });
     watch.start(0);
     game.prompter.answers.enqueue(kMsgYes);
     game.trigger("mnubatch");
     watch.stop();
     QVERIFY(shown);
+    QVERIFY2(!statuses.isEmpty() && !statuses.contains("Reading Meanings file ..."), qPrintable(statuses.join('|')));
     QCOMPARE(game.prompter.notices, QStringList{"done"});
     QFile made(batch);
     QVERIFY(made.open(QIODevice::ReadOnly));
@@ -285,6 +299,9 @@ class TestOutput : public QObject {
     QCOMPARE(puzzles.size(), 3);  // two lines and the end
     QVERIFY(puzzles[0].startsWith("17;"));
     QCOMPARE(game.puzzle().PuzzleSize, 7);  // the puzzle shown stays
+    // The batch's size and dictionary are the ones in use afterwards.
+    QCOMPARE(game.window->findChild<QLabel*>("lblsize")->text(), QString("17"));
+    QCOMPARE(QString::fromStdString(game.window->settings().dictionaryPath), game.folder.path("english3.txt"));
   }
 };
 
