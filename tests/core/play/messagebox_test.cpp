@@ -33,29 +33,16 @@ TEST(MessageStyleTest, CaseBlanksAndOrderDoNotMatterAndWithoutAButtonKeywordTheB
 
 // The keyword table itself is data; these are the rules of reading it.
 TEST(MessageStyleTest, KeywordsAddUpToThreeButtonsAndIconsFromWholePiecesOnly) {
-  const std::vector<std::pair<const char*, Buttons>> cases = {
-      {"vbabort+vbretry+vbignore", {{"Abort", 3}, {"Retry", 4}, {"Ignore", 5}}},
-      {"vbyesnocancel+vbok", {{"Yes", 6}, {"No", 7}, {"Cancel", 2}}},
-      {"vbok+vbyesnocancel", {{"Ok", 1}, {"Yes", 6}, {"No", 7}}},
-  };
-  for (const auto& [style, buttons] : cases) EXPECT_EQ(parseMessageStyle(style).buttons, buttons) << style;
-  EXPECT_EQ(parseMessageStyle("vbok+vbyesnocancel").lastButtonIndex(), 2);
+  EXPECT_EQ(parseMessageStyle("vbquestion+vbyesno").buttons, (Buttons{{"Yes", 6}, {"No", 7}}));
+  EXPECT_EQ(parseMessageStyle("vbok+vbyesnocancel").buttons, (Buttons{{"Ok", 1}, {"Yes", 6}, {"No", 7}}));
   EXPECT_EQ(shownIcons(parseMessageStyle("vbquestion+vbexclamation+vbok")), (std::vector<int>{0, 1}));
-  EXPECT_EQ(shownIcons(parseMessageStyle("vbcontinuecancel")), std::vector<int>{2});
   EXPECT_TRUE(shownIcons(parseMessageStyle("vbquestions+xvbhappy")).empty());
 }
 
 constexpr MessageBoxDesign kDesign{900, 240, 5100, 1200, 405};
 
-TEST(ArrangeMessageBoxTest, TheFormGrowsWithTheTextAndCentresItsTouchingButtons) {
-  const MessageBoxLayout oneLine = arrangeMessageBox(kDesign, 240, 0);
-  EXPECT_EQ(oneLine.formWidth, 2 * 900 + 5100);
-  EXPECT_EQ(oneLine.buttonTop, 240 + 360 + 120);
-  EXPECT_EQ(oneLine.formHeight, oneLine.buttonTop + 405 + 600);
-  const MessageBoxLayout fourLines = arrangeMessageBox(kDesign, 4 * 240, 0);
-  EXPECT_EQ(fourLines.labelHeight, 4 * 240 + 120);
-  EXPECT_EQ(fourLines.formHeight - oneLine.formHeight, 3 * 240);
-
+TEST(ArrangeMessageBoxTest, TheFormKeepsItsWidthAndCentresItsTouchingButtons) {
+  EXPECT_EQ(arrangeMessageBox(kDesign, 240, 0).formWidth, 2 * 900 + 5100);
   for (int last = 0; last < kMessageButtonPlaces; ++last) {
     const MessageBoxLayout layout = arrangeMessageBox(kDesign, 240, last);
     ASSERT_EQ(layout.visibleButtons, last + 1);

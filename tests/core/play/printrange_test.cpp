@@ -11,12 +11,10 @@ namespace combwise {
 namespace {
 
 TEST(PrintRangeCheckTest, ValidRangesMayEndBeyondTheCount) {
-  const PrintRangeCheck check = checkPrintRange(" 5-10 ", 20);
-  ASSERT_TRUE(check.ok());
-  EXPECT_TRUE(check.message.empty());
+  EXPECT_TRUE(checkPrintRange(" 5-10 ", 20).ok());
   for (const auto& [text, range] : {std::pair{" 5-10 ", PrintRange{5, 10}}, std::pair{"3-999", PrintRange{3, 999}},
                                     std::pair{"20-20", PrintRange{20, 20}}, std::pair{"2.6 - 4", PrintRange{3, 4}}})
-    EXPECT_EQ(*checkPrintRange(text, 20).range, range) << text;
+    EXPECT_EQ(checkPrintRange(text, 20).range, range) << text;
   EXPECT_EQ(checkPrintRange("1-12345678", 20).range->last, kMaxRangeNumber);
 }
 
@@ -33,7 +31,6 @@ TEST(PrintRangeCheckTest, TextWithoutADashAsksForARangeAndImpossibleRangesAreNot
 TEST(PrintRangeTag, TenDigitsReadBackAndNothingElseDoes) {
   EXPECT_EQ(rangeTag({5, 10}), "0000500010");
   EXPECT_EQ(rangeFromTag("0000500010"), (PrintRange{5, 10}));
-  EXPECT_EQ(rangeFromTag(rangeTag({99999, 99999})), (PrintRange{99999, 99999}));
   EXPECT_FALSE(rangeFromTag("") || rangeFromTag("00005-0010"));
 }
 

@@ -40,13 +40,10 @@ TEST(CluePanel, NumbersInsideThenOutsideCluesAndWrapsToTheColumn) {
   EXPECT_EQ(texts,
             (std::vector<std::string>{"--", " INSIDE CLUES:", "01. ", "inside one is long", "enough to wrap", "02. ",
                                       "inside two", "--", " OUTSIDE CLUES:", "01. ", "outside one", "02. ", "--"}));
-  // The number and the first line of its clue share a line; the clue goes on below.
+  // The number and the first line of its clue share a line; where the lines
+  // go down the panel is the clue spans' test below.
   EXPECT_EQ(panel.lines[2].y, panel.lines[3].y);
   EXPECT_EQ(panel.lines[3].x, kClueColumn);
-  EXPECT_EQ(panel.lines[4].y, panel.lines[3].y + 100);
-  EXPECT_EQ(panel.lines[5].y, panel.lines[4].y + 148);  // the gap between clues
-  // An empty clue keeps its own numbered line.
-  EXPECT_EQ(panel.lines[12].y, panel.lines[11].y + 148);
   EXPECT_EQ(panel.height, panel.lines[12].y + 400);
 }
 

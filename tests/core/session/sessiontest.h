@@ -29,11 +29,11 @@ class ScriptedHost : public SessionHost {
     return next(files, std::string());
   }
   void tell(const Message&) override {}
-  void progress(const std::string& status) override { statuses.push_back(status); }
+  void progress(const std::string&) override {}
   void pumpEvents() override {
     if (duringEvents) duringEvents();
   }
-  void busyChanged() override { ++busyChanges; }
+  void busyChanged() override {}
 
   // Opens `path` as the collection, as if chosen in the file dialog.
   CommandResult open(GameSession& session, const std::string& path) {
@@ -45,9 +45,7 @@ class ScriptedHost : public SessionHost {
   std::deque<int> answers;  // then Yes
   std::vector<FileQuestion> questions;
   std::deque<std::string> files;  // then the dialog is cancelled
-  std::vector<std::string> statuses;
   std::function<void()> duringEvents;
-  int busyChanges = 0;
 
  private:
   template <typename T>
