@@ -47,12 +47,6 @@ std::string made(const TempFolder& temp, int size, int count, int seed) {
   return path;
 }
 
-// The game's word data copied into `home`, as a program folder holds it.
-void copyWordData(const TempFolder& home) {
-  for (const char* name : {"english3.txt", "mean3456.txt"})
-    std::filesystem::copy_file(std::string(COMBWISE_BIN_DIR) + "/" + name, home.file(name));
-}
-
 long filesIn(const std::string& folder) {
   return static_cast<long>(std::distance(std::filesystem::directory_iterator(folder), {}));
 }
@@ -71,15 +65,6 @@ ShellRun shell(const std::string& command) {
   const int status = pclose(pipe);
   run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   return run;
-}
-
-// The built tool in a process of its own, under a deadline, so that
-// whatever it prints (Qt's warnings too) is seen. `prefix` goes before it
-// on the command line (another user, for instance).
-ShellRun tool(const std::vector<std::string>& args, const std::string& prefix = {}) {
-  std::string command = prefix + "timeout 30 '" COMBWISE_BIN_DIR "/combwise-cli' --home '" COMBWISE_BIN_DIR "'";
-  for (const auto& arg : args) command += " '" + arg + "'";
-  return shell(command);
 }
 
 // A PDF read back with poppler's tools.
@@ -195,7 +180,8 @@ TEST(CliCollections, RandomizeWritesBesideAndBatchAppendsToTheProgramFoldersFile
   EXPECT_EQ(countLines(temp.file("set-noduprandom.txt")), 3);
 
   // The batch reads the program folder's own dictionary and meanings.
-  copyWordData(temp);
+  for (const char* name : {"english3.txt", "mean3456.txt"})
+    std::filesystem::copy_file(std::string(COMBWISE_BIN_DIR) + "/" + name, temp.file(name));
   const CliRun batch = cli({"batch", "--count", "3", "--seed", "9"}, temp.folder());
   EXPECT_EQ(batch.status, 0);
   EXPECT_THAT(batch.out, HasSubstr("done"));
@@ -270,13 +256,15 @@ TEST(CliFullDisk, AFailedWriteLeavesThePdfAndTheCollectionAsTheyWereAndSaysWhy) 
   EXPECT_EQ(TempFolder::contentOf(set), before);
   EXPECT_EQ(filesIn(temp.folder()), 2);
 
-  // A folder the tool may not write to: the cause, and no word from Qt.
+  // A folder the tool may not write to: the cause, and no word from Qt, so
+  // the tool runs in a process of its own (as another user if need be).
   std::filesystem::create_directory(temp.file("ro"));
   std::filesystem::permissions(temp.file("ro"), std::filesystem::perms(0555));
   const bool root = ::geteuid() == 0;
   if (root && std::system("setpriv --help > /dev/null 2>&1") != 0) GTEST_SKIP() << "no setpriv to run as another user";
-  const ShellRun refused = tool({"pdf", set, "1", "--output", temp.file("ro/c.pdf")},
-                                root ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "");
+  const ShellRun refused = shell(std::string(root ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "") +
+                                 "timeout 30 '" COMBWISE_BIN_DIR "/combwise-cli' --home '" COMBWISE_BIN_DIR "' pdf '" +
+                                 set + "' 1 --output '" + temp.file("ro/c.pdf") + "'");
   EXPECT_EQ(refused.status, 1);
   EXPECT_THAT(refused.output,
               HasSubstr("combwise-cli pdf: Cannot write " + temp.file("ro/c.pdf") + ": Permission denied"));
