@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include "core/files/config.h"
 #include "core/files/textfile.h"
 #include "support/fifo.h"
 #include "support/filesizelimit.h"
@@ -205,6 +206,43 @@ TEST(CliPdf, ARangeStopsAtTheEndCluesAddAPageAndABookletTakesItsTitleAndPaper) {
   EXPECT_EQ(pages(pdf), 3 + 1);
   EXPECT_THAT(shell("pdfinfo '" + pdf + "'").output, HasSubstr("612 x 792 pts (letter)"));
   EXPECT_THAT(textOf(pdf), ::testing::AllOf(HasSubstr("Class 4b"), HasSubstr("Page 4 of 4")));
+}
+
+// Words only, so a clue wrapped over lines on paper compares with its
+// one-line form in the text file.
+std::string wordsOf(const std::string& text) {
+  std::istringstream in(text);
+  std::string words;
+  for (std::string word; in >> word;) words += word + " ";
+  return words;
+}
+
+TEST(CliPdf, ALargeFontListingOfTheBiggestPuzzleKeepsEveryClueOnA4AndLetter) {
+  TempFolder home;
+  for (const char* name : {"english3.txt", "mean3456.txt"})
+    std::filesystem::copy_file(std::string(COMBWISE_BIN_DIR) + "/" + name, home.file(name));
+  Settings settings;
+  settings.boardFontName = "DejaVu Sans";
+  settings.BoardFontSize = 14;
+  ASSERT_TRUE(SavecfgFile(home.folder(), settings).ok());
+  const std::string collection = made(home, 22, 1, 3), listing = home.file("clues.txt");
+  ASSERT_EQ(cli({"clues", collection, "1", "--output", listing}, home.folder()).status, 0);
+  const auto lines = *readLines(listing);
+  ASSERT_GE(lines.size(), 48u);
+
+  for (const auto& [paper, size] : {std::pair{"A4", "(A4)"}, std::pair{"Letter", "(letter)"}}) {
+    const std::string pdf = home.file(std::string("clues-") + paper + ".pdf");
+    const CliRun run = cli({"pdf", collection, "1", "--output", pdf, "--clues", "--paper", paper}, home.folder());
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_GE(pages(pdf), 3) << paper << ": the listing takes more than one page";
+    EXPECT_THAT(shell("pdfinfo '" + pdf + "'").output, HasSubstr(size));
+    // pdftotext drops text that lies below the paper's edge.
+    const std::string printed = wordsOf(textOf(pdf));
+    for (const std::string& line : lines) {
+      if (line.find(". ") != 3) continue;  // the clue entries: " 01. clue"
+      EXPECT_THAT(printed, HasSubstr(wordsOf(line))) << paper;
+    }
+  }
 }
 
 TEST(CliPipes, EveryCommandRefusesAPipeWithoutWaitingOnIt) {
