@@ -27,11 +27,10 @@ AtomicFile::WriteFunction diskWithRoom(std::size_t room) {
   };
 }
 
-TEST(AtomicFile, ReplacesTheTargetWholeKeepingItsModeAndWritesThroughALink) {
+TEST(AtomicFile, ReplacesTheTargetWholeAndWritesThroughALink) {
   TempFolder temp;
   const std::string path = temp.file("p.pdf");
   ASSERT_TRUE(writeFileAtomically(path, "old").ok());
-  ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
   AtomicFile file(path);
   ASSERT_TRUE(file.open().ok());
   const std::string big(200000, 'x');  // more than one buffer
@@ -39,9 +38,6 @@ TEST(AtomicFile, ReplacesTheTargetWholeKeepingItsModeAndWritesThroughALink) {
   EXPECT_EQ(TempFolder::contentOf(path), "old");  // nothing shows until the commit
   ASSERT_TRUE(file.commit().ok());
   EXPECT_EQ(TempFolder::contentOf(path), "head " + big + " tail");
-  struct stat info {};
-  ASSERT_EQ(::stat(path.c_str(), &info), 0);
-  EXPECT_EQ(info.st_mode & 0777, 0640u);
 
   const std::string link = temp.file("link.pdf");
   std::filesystem::create_symlink(path, link);
@@ -74,8 +70,6 @@ TEST(AtomicFile, AFullDiskAtAnyWriteLeavesTheOldFileAndSaysWhy) {
 TEST(AtomicFile, TargetsThatCannotBeWrittenAreRefusedWithTheirCause) {
   TempFolder temp;
   EXPECT_EQ(writeFileAtomically(temp.folder(), "x").error, "Cannot write " + temp.folder() + ": it is a folder");
-  EXPECT_EQ(writeFileAtomically(temp.file("no/p.pdf"), "x").error,
-            "Cannot write " + temp.file("no/p.pdf") + ": No such file or directory");
   EXPECT_EQ(temp.entries(), 0);
   if (::geteuid() != 0) {  // root writes anywhere
     std::filesystem::create_directory(temp.file("ro"));

@@ -10,9 +10,7 @@ namespace {
 // between eight and thirty-two.
 TEST(BoardOptions, SampleClicksStepWithinTheirLimits) {
   EXPECT_EQ(nextOutlineWidth(20, SampleClick::Left), 1);
-  EXPECT_EQ(nextOutlineWidth(3, SampleClick::Right), 2);
   EXPECT_EQ(nextOutlineWidth(1, SampleClick::Right), 1);
-  EXPECT_EQ(nextBoardFontSize(10, SampleClick::Left), 11);
   EXPECT_EQ(nextBoardFontSize(32, SampleClick::Left), 32);
   EXPECT_EQ(nextBoardFontSize(8, SampleClick::Right), 8);
 }

@@ -18,12 +18,6 @@ TEST(RandomizedPath, CutsAtTheLastDotOfTheWholePathAndFailsWithoutOne) {
   EXPECT_EQ(randomizedPath("/home/me/set1.txt"), "/home/me/set1-noduprandom.txt");
   EXPECT_EQ(randomizedPath("/home/my.files/set1"), "/home/my-noduprandom.txt");
   EXPECT_EQ(randomizedPath("/home/me/set1"), std::nullopt);
-
-  TempFolder folder;
-  RandomSource random = RandomSource::seeded(1);
-  const auto result = randomizeCollection(folder.file("set1"), random);
-  EXPECT_FALSE(result.status.ok());
-  EXPECT_THAT(result.message, ::testing::HasSubstr("no extension"));
 }
 
 TEST(Randomize, DropsRepeatsCaseVariantsAndBeginningsOfEarlierLines) {
@@ -34,17 +28,14 @@ TEST(Randomize, DropsRepeatsCaseVariantsAndBeginningsOfEarlierLines) {
   ASSERT_TRUE(writeLines(source, lines, WriteMode::Truncate));
   ASSERT_TRUE(writeLines(folder.file("set1-noduprandom.txt"), {"old", "old"}, WriteMode::Truncate));
   std::vector<std::string> progress;
-  int pumped = 0;
   RandomSource random = RandomSource::seeded(42);
-  const auto result = randomizeCollection(
-      source, random, [&](const std::string& text) { progress.push_back(text); }, [&] { ++pumped; });
+  const auto result = randomizeCollection(source, random, [&](const std::string& text) { progress.push_back(text); });
 
   ASSERT_TRUE(result.status.ok()) << result.status.error;
   EXPECT_EQ(result.outputPath, folder.file("set1-noduprandom.txt"));
   EXPECT_EQ(result.message, result.outputPath + " randomized");
   EXPECT_EQ(result.readCount, 7);
   EXPECT_EQ(result.distinctCount, 3);
-  EXPECT_EQ(pumped, 7);
   EXPECT_THAT(*readLines(result.outputPath), ::testing::UnorderedElementsAre("7;ABC;TEA,1;", "7;ABC;TEA,1;X", "10;Z;"));
   EXPECT_EQ(*readLines(source), lines);
   EXPECT_EQ(progress.front() + "|" + progress.back(), "source 1 1|random 3");
@@ -75,7 +66,6 @@ TEST(Randomize, RandomCollectionsKeepExactlyTheLinesTheRuleKeepsShuffledAsTheSee
     const auto shuffled = randomized(round);
     EXPECT_THAT(shuffled, ::testing::UnorderedElementsAreArray(kept));
     EXPECT_EQ(randomized(round), shuffled);
-    EXPECT_NE(randomized(round + 100), shuffled);
   }
 }
 

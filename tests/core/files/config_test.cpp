@@ -51,10 +51,6 @@ TEST_F(ConfigFile, ReadingStopsAtTheFirstFailureKeepingWhatWasRead) {
   EXPECT_EQ(settings.dictionaryPath, defaultDictionary);
   EXPECT_EQ(settings.schemeName, "default.col");
 
-  settings = readBack({"blue.col", "/c/set.txt", folder.file("words.txt")});
-  EXPECT_EQ(settings.dictionaryPath, folder.file("words.txt"));
-  EXPECT_EQ(settings.boardFontName, "Sans");
-
   settings = readBack({"blue.col", "/c/set.txt", folder.file("empty.txt"), "Serif", "7, 10 ,,255 x 1", "/a/1.txt"});
   EXPECT_EQ(settings.boardFontName, "Serif");
   EXPECT_EQ(settings.dictionaryPath, defaultDictionary);
@@ -91,10 +87,6 @@ TEST_F(ConfigFile, ImplausibleNumbersAreHeldToTheOptionsRangesAndGarbageIsNoSche
   EXPECT_EQ(read.notes[0], path + ": line 1 names no colour scheme; default.col is used");
   EXPECT_EQ(read.notes[1], path + ": the letter font size 2000 is not from 8 to 32; 32 is used");
   EXPECT_EQ(read.notes[5], path + ": the button colour -9 is not from 0 to 16777215; 0 is used");
-
-  settings = readBack({"blue.col", "c", "d", "e", "1 1 1 1 1 1 1 0 1"});
-  EXPECT_EQ(settings.schemeName, "blue.col");
-  EXPECT_EQ(settings.OutlineWidth, 1);
   EXPECT_TRUE(ReadcfgFile(folder.file("none/"), settings).notes.empty());  // no file yet is no fault
 }
 

@@ -11,16 +11,13 @@
 namespace combwise {
 namespace {
 
-TEST(ErrorLog, WritesAnEightFieldRecordWithoutShowingIt) {
+TEST(ErrorLog, WritesAnEightFieldRecord) {
   TempFolder temp;
   ::setenv("username", "alice", 1);
   ::setenv("computername", "DESK1", 1);
   ErrorLog log(temp.folder());
   log.setStamp([] { return std::string("#2024-03-05 14:07:09#"); });
-  bool shown = false;
-  log.setShow([&shown](const std::string&, const std::string&) { shown = true; });
   log.LogError(false, "-1", "Bad index", "clsSimpleArray", "AddItem");
-  EXPECT_FALSE(shown);
   EXPECT_EQ(TempFolder::contentOf(temp.file("ErrorLog.txt")),
             "#2024-03-05 14:07:09#,\"-1\",\"Bad index\",\"clsSimpleArray\",\"AddItem\",\"Combwise v1.0.0\","
             "\"alice\",\"DESK1\"\r\n");

@@ -38,14 +38,12 @@ TEST(Pipes, EveryReaderAndWriterRefusesAPipeWithoutWaitingOnIt) {
     std::string expected;  // empty where the use gives no message, only a failure
   } const uses[] = {
       {"line reader", [&] { return LineReader(path).error(); }, refused},
-      {"read lines", [&] { return readLines(path) ? "read" : ""; }, ""},
       {"count", [&] { return std::to_string(countLines(path) + countPuzzles(path)); }, "0"},
       {"reason", [&] { return unreadableReason(path).value_or(""); }, refused},
       {"dictionary", [&] { return readDictionary(path, dictionary).error; }, refused},
       {"meanings", [&] { return meanings.read(path).error; }, refused},
       {"collection", [&] { return readPuzzle(path, 1, board, state, {}).message; }, refused},
       {"randomize", [&] { return randomizeCollection(path, random).status.error; }, refused},
-      {"scheme list", [&] { return schemeList(path).empty() ? "" : "listed"; }, ""},
       {"scheme", [&] { return loadStartupScheme(path, "blue.col", scheme, DesignedColours{}).detail; }, refused},
       {"append", [&] { return appendLines(path, {"x"}).error; }, unwritable},
       // With no reader at the other end a plain write fails at once.

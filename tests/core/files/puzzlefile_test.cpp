@@ -130,8 +130,7 @@ TEST_F(CollectionFile, MalformedLinesLeaveTheShownPuzzleUntouched) {
   std::string words14;
   for (int i = 0; i < 14; ++i) words14 += "TEAR,1;";
   const std::string tooLong = "10;" + std::string(100, 'A') + ";", fifteenWords = "7;A;" + words14 + "SEAT,1;";
-  const std::vector<std::string> lines = {"8;A;TEAR,1;", "1e99;A;",    "22;A;TEAR;", "7;A;TEAR,99999999999;",
-                                          tooLong,       fifteenWords, "7;",         "22;;"};
+  const std::vector<std::string> lines = {"8;A;TEAR,1;", "22;A;TEAR;", tooLong, fifteenWords, "7;", "22;;"};
   for (const std::string& line : lines) {
     EXPECT_EQ(loadPuzzleLine(line, board, state, {}).outcome, ReadOutcome::Malformed) << line;
     expectSamePuzzle(state, before);

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <set>
 #include <vector>
 
@@ -29,15 +28,11 @@ TEST(RandomSource, ReadsTheClockForEveryDrawAndStillDiffersWithinOneTick) {
   for (double d : draws(RandomSource(), 500)) EXPECT_TRUE(d >= 0.0 && d < 1.0) << d;
 }
 
-TEST(RandomSource, SeededStreamsAreReproducibleDistinctAndRoughlyUniform) {
+TEST(RandomSource, SeededStreamsAreReproducibleAndDistinct) {
   const auto first = draws(RandomSource::seeded(42, 3), 50);
   EXPECT_EQ(first, draws(RandomSource::seeded(42, 3), 50));
   EXPECT_NE(first, draws(RandomSource::seeded(42, 4), 50));
   EXPECT_NE(first, draws(RandomSource::seeded(43, 3), 50));
-
-  std::array<int, 10> buckets{};
-  for (double d : draws(RandomSource::seeded(2024), 20000)) ++buckets.at(static_cast<std::size_t>(d * 10));
-  for (int count : buckets) EXPECT_NEAR(count, 2000, 200);
 }
 
 }  // namespace
