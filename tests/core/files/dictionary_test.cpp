@@ -3,7 +3,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 #include "core/files/textfile.h"
@@ -77,6 +80,29 @@ TEST(MeaningsFile, AnEmptyUnsortedOrClueLessFileGivesOneWarning) {
   EXPECT_EQ(warningFor({"TEA:a drink", "SEAT:a chair", "ZOO:a park"}),
             path + " is not sorted (line 2 belongs before line 1): clues may not be found");
   EXPECT_EQ(warningFor({"SEAT:a chair", "TEA:a drink", "TEA:leaves"}), "");
+}
+
+TEST(MeaningsFile, RunningOutOfMemoryIsAnErrorThatNamesTheFile) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "the address sanitizer reserves more address space than the limit allows";
+#else
+  TempFolder folder;
+  // One line of a gigabyte, made without writing it (the file is sparse).
+  const std::string path = folder.write("mean3456.txt", "");
+  std::filesystem::resize_file(path, 1LL << 30);
+  EXPECT_EXIT(
+      {
+        rlimit limit{};
+        getrlimit(RLIMIT_AS, &limit);
+        limit.rlim_cur = 256LL << 20;
+        setrlimit(RLIMIT_AS, &limit);
+        Meanings meanings;
+        const Status read = meanings.read(path);
+        std::fprintf(stderr, "%s\n", read.error.c_str());
+        std::exit(read.ok() || meanings.loaded() ? 1 : 0);
+      },
+      ::testing::ExitedWithCode(0), "Cannot read .*mean3456.txt: there is not enough memory");
+#endif
 }
 
 }  // namespace
